@@ -5,6 +5,7 @@
 #   ks_add_floor(NAME vcl_classes FOLDER vcl/classes DEPENDS vcl_system)
 #
 # FOLDER is relative to src/; all .cpp files directly in it belong to the floor unless SOURCES lists them.
+# Floors called vcl_... end in the shared library vcl, all others in KSSuite (see KSShared.cmake).
 function(ks_add_floor)
     cmake_parse_arguments(FLOOR "" "NAME;FOLDER" "DEPENDS;SOURCES;LINK" ${ARGN})
     set(folder "${PROJECT_SOURCE_DIR}/src/${FLOOR_FOLDER}")
@@ -19,6 +20,7 @@ function(ks_add_floor)
     endif()
     if(NOT FLOOR_SOURCES)
         add_library(${FLOOR_NAME} INTERFACE)
+        target_include_directories(${FLOOR_NAME} INTERFACE "$<BUILD_INTERFACE:${includes}>")
         target_link_libraries(${FLOOR_NAME} INTERFACE ${FLOOR_DEPENDS})
         return()
     endif()
@@ -26,20 +28,19 @@ function(ks_add_floor)
     target_include_directories(${FLOOR_NAME} PUBLIC "$<BUILD_INTERFACE:${includes}>")
     target_link_libraries(${FLOOR_NAME} PUBLIC ${FLOOR_DEPENDS} ${FLOOR_LINK} PRIVATE ks_warnings)
     set_target_properties(${FLOOR_NAME} PROPERTIES POSITION_INDEPENDENT_CODE ON)
+    set_property(GLOBAL APPEND PROPERTY KS_FLOORS ${FLOOR_NAME})
 endfunction()
 
-# A GoogleTest program from the .cpp files of a folder under tests/, registered test by test in CTest.
-#
-#   ks_add_test(NAME classes_test FOLDER vcl/classes LINK vcl_classes)
-function(ks_add_test)
-    cmake_parse_arguments(TEST "" "NAME;FOLDER" "LINK;SOURCES;ENVIRONMENT" ${ARGN})
-    if(NOT TEST_SOURCES)
-        file(GLOB TEST_SOURCES CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/tests/${TEST_FOLDER}/*.cpp")
+# Adds every folder below the current one that has a CMakeLists.txt of its own. EXCLUDE is a regular expression
+# on the path relative to the current folder.
+function(ks_add_subfolders)
+    cmake_parse_arguments(SUB "" "EXCLUDE" "" ${ARGN})
+    file(GLOB_RECURSE lists CONFIGURE_DEPENDS RELATIVE "${CMAKE_CURRENT_SOURCE_DIR}" "*/CMakeLists.txt")
+    if(SUB_EXCLUDE)
+        list(FILTER lists EXCLUDE REGEX "${SUB_EXCLUDE}")
     endif()
-    add_executable(${TEST_NAME} ${TEST_SOURCES})
-    target_include_directories(${TEST_NAME} PRIVATE "${PROJECT_SOURCE_DIR}/tests")
-    target_link_libraries(${TEST_NAME} PRIVATE ${TEST_LINK} ks_warnings GTest::gmock GTest::gtest_main)
-    target_compile_definitions(${TEST_NAME} PRIVATE KS_TEST_DATA="${PROJECT_SOURCE_DIR}/tests/data")
-    gtest_discover_tests(${TEST_NAME} DISCOVERY_MODE PRE_TEST PROPERTIES TIMEOUT 300
-                         ENVIRONMENT "QT_QPA_PLATFORM=offscreen;${TEST_ENVIRONMENT}")
+    foreach(list IN LISTS lists)
+        get_filename_component(folder "${list}" DIRECTORY)
+        add_subdirectory("${folder}")
+    endforeach()
 endfunction()

@@ -3,11 +3,17 @@
 option(KS_BUILD_TESTS "Build the tests" ON)
 option(KS_BUILD_BENCH "Build the benchmarks" OFF)
 option(KS_FUZZ "Build the fuzz targets (needs Clang)" OFF)
+option(KS_PCH "Precompile the headers of GoogleTest and Qt where many files include them" ON)
 set(KS_SANITIZE "" CACHE STRING "Sanitizers, as -fsanitize takes them: address,undefined or thread")
 
 find_program(KS_CCACHE ccache)
 if(KS_CCACHE AND NOT CMAKE_CXX_COMPILER_LAUNCHER)
-    set(CMAKE_CXX_COMPILER_LAUNCHER "${KS_CCACHE}")
+    # Without these allowances ccache refuses to keep what was compiled with a precompiled header.
+    set(CMAKE_CXX_COMPILER_LAUNCHER "${CMAKE_COMMAND}" -E env
+        CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime "${KS_CCACHE}")
+    if(KS_PCH AND CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
+        add_compile_options(-fpch-preprocess)
+    endif()
 endif()
 
 add_library(ks_warnings INTERFACE)
@@ -20,4 +26,7 @@ add_compile_options(-ffp-contract=off)
 if(KS_SANITIZE)
     add_compile_options(-fsanitize=${KS_SANITIZE} -fno-omit-frame-pointer -fno-sanitize-recover=all)
     add_link_options(-fsanitize=${KS_SANITIZE})
+endif()
+if(KS_FUZZ)
+    add_compile_options(-fsanitize=fuzzer-no-link)
 endif()
