@@ -60,7 +60,8 @@ public:
     bool Is(TComponentState State) const { return FState.Contains(State); }
     void SetSubComponent(bool IsSubComponent);
 
-    /// Asks Other to tell this component, through Notification, when Other is destroyed.
+    /// Asks Other to tell this component, through Notification, when Other is destroyed; mutual, so it does
+    /// not matter which of the two asks. An owner and what it owns need not ask.
     void FreeNotification(TComponent* Other);
     void RemoveFreeNotification(TComponent* Other);
 
@@ -98,10 +99,17 @@ protected:
     void SetAncestor(bool Value);
     void SetInline(bool Value);
 
+    /// Marks this component and all it owns as being destroyed.
+    void Destroying();
+
     TComponentStyles FStyle{TComponentStyle::csInheritable};
 
 private:
     void ChangeState(TComponentState State, bool Value);
+    void Insert(TComponent* Component);
+    void Remove(TComponent* Component);
+    void ValidateContainerName(TComponent* Component, const AnsiString& Name) const;
+    void NotifyOfDestruction();
 
     TComponent* FOwner = nullptr;
     AnsiString FName;
@@ -111,6 +119,9 @@ private:
     std::vector<TComponent*> FFreeNotifies;
     TComponentStates FState;
 };
+
+/// True for a letter or underscore followed by letters, digits and underscores (ASCII).
+bool IsValidIdent(std::string_view Ident);
 
 /// Makes classes known by name to form readers and package loaders. Registering a class twice is allowed.
 void RegisterClass(const TClass& Class);

@@ -22,6 +22,8 @@ namespace vcl
 
 class TPersistent;
 class TComponent;
+class TCollection;
+class TCollectionItem;
 
 enum class TTypeKind {
     Integer,     // up to 32 bits, with range and perhaps identifiers (TColor, TCursor)
@@ -31,7 +33,7 @@ enum class TTypeKind {
     Enumeration, // Boolean included
     Set,         //
     String,      // AnsiString
-    WideString,  //
+    WideText,    // WideString
     Float,       //
     Class,       // a persistent: an owned sub-object or a component reference
     Method,      // an event
@@ -59,6 +61,8 @@ struct TTypeInfo {
     const std::type_info* Signature = nullptr;   // Method
 
     bool IsBoolean() const;
+    /// The name for people: the class's for Class, Name for all others.
+    AnsiString DisplayName() const;
     /// Ordinal of a value name, compared without regard to case; nothing when there is none.
     std::optional<std::int64_t> OrdinalOf(std::string_view ValueName) const;
     std::optional<std::int64_t> IdentifierValue(std::string_view Identifier) const;

@@ -48,8 +48,8 @@ const TTypeInfo& ClassType()
     static const TTypeInfo Type = [] {
         TTypeInfo Info;
         Info.Kind = TTypeKind::Class;
+        // The class's name is asked for later: its table may be the one that is being made.
         Info.Class = &T::StaticClass;
-        Info.Name = T::StaticClass().Name;
         return Info;
     }();
     return Type;
@@ -260,6 +260,21 @@ struct TypeTraits<double> {
     static const TTypeInfo& Info();
 };
 template <>
+struct TypeTraits<TExtended> {
+    static const TTypeInfo& Info();
+    static TPropertyValue ToValue(const TExtended& Value) { return Value; }
+    static TExtended FromValue(const TPropertyValue& Value) { return std::get<TExtended>(Value); }
+};
+template <>
+struct TypeTraits<TCurrency> {
+    static const TTypeInfo& Info();
+    static TPropertyValue ToValue(const TCurrency& Value) { return TExtended(Value); }
+    static TCurrency FromValue(const TPropertyValue& Value)
+    {
+        return std::get<TExtended>(Value).ToCurrency();
+    }
+};
+template <>
 struct TypeTraits<AnsiString> {
     static const TTypeInfo& Info();
 };
@@ -276,6 +291,15 @@ struct TypeTraits<TCursor> {
     static const TTypeInfo& Info();
 };
 
+namespace detail
+{
+
+/// Checked casts for class factories, out of line so that a table needs neither header.
+TComponent* OwnerComponent(TObject* Owner);
+TCollection* OwnerCollection(TObject* Owner);
+
+} // namespace detail
+
 template <class T, class TParent>
 TClass DefineClass(const char* Name, std::initializer_list<TPropertyRow> Rows,
                    std::initializer_list<TPropertyTable::TMethodRow> Methods)
@@ -285,8 +309,10 @@ TClass DefineClass(const char* Name, std::initializer_list<TPropertyRow> Rows,
     Class.Parent = &TParent::StaticClass();
     if constexpr (std::is_abstract_v<T>)
         Class.Create = nullptr;
-    else if constexpr (std::is_constructible_v<T, TComponent*>)
-        Class.Create = [](TObject* Owner) -> TObject* { return New<T>(As<TComponent>(Owner)); };
+    else if constexpr (std::is_base_of_v<TComponent, T> && std::is_constructible_v<T, TComponent*>)
+        Class.Create = [](TObject* Owner) -> TObject* { return New<T>(detail::OwnerComponent(Owner)); };
+    else if constexpr (std::is_base_of_v<TCollectionItem, T> && std::is_constructible_v<T, TCollection*>)
+        Class.Create = [](TObject* Owner) -> TObject* { return New<T>(detail::OwnerCollection(Owner)); };
     else if constexpr (std::is_default_constructible_v<T>)
         Class.Create = [](TObject*) -> TObject* { return New<T>(); };
     // Lives as long as the class description, which is as long as the program.

@@ -1,0 +1,151 @@
+#pragma once
+
+#include <memory>
+#include <vector>
+
+#include "vcl/streaming/Filer.h"
+
+namespace vcl
+{
+
+class TCollection;
+class TLoadList;
+
+/// Reads components from a binary form image.
+///
+///     TFileStream Stream("main.dfm", fmOpenRead);
+///     TReader(Stream).ReadRootComponent(&Form);
+///
+/// Every error in the data raises EReadError, EClassNotFound or EComponentError, unless OnError accepts it.
+/// Lengths are checked against the bytes that are left before memory is taken for them.
+class TReader : public TFiler
+{
+public:
+    /// Reads from the stream's position. Bytes after the image stay unread: once the root has been read, the
+    /// stream's position is the first byte after it.
+    explicit TReader(TStream& Stream);
+    ~TReader() override;
+
+    /// Position of the next byte in the stream.
+    std::int64_t GetPosition();
+    void SetPosition(std::int64_t Position);
+    /// Sets the stream's position to that of the reader.
+    void FlushBuffer();
+
+    // Values. Each raises EReadError when the next value is of another kind.
+    TValueType NextValue();
+    TValueType ReadValue();
+    void SkipValue();
+    bool EndOfList();
+    void ReadListBegin();
+    void ReadListEnd();
+    bool ReadBoolean();
+    char ReadChar();
+    char16_t ReadWideChar();
+    /// 32 bits; a larger value raises EReadError.
+    int ReadInteger();
+    std::int64_t ReadInt64();
+    /// Any floating point or integer value.
+    TExtended ReadExtended();
+    double ReadFloat() { return ReadExtended().ToDouble(); }
+    /// Any kind of string; wide ones are converted to the current code page.
+    AnsiString ReadString();
+    WideString ReadWideString();
+    /// An identifier; False, True and nil are given as such words.
+    AnsiString ReadIdent();
+    std::vector<std::uint8_t> ReadBinary();
+    /// The elements of a set as bits.
+    std::int64_t ReadSet(const TTypeInfo& ElementType);
+    /// Replaces the collection's items.
+    void ReadCollection(TCollection& Collection);
+    /// A name: length byte and characters, without a type byte.
+    AnsiString ReadStr();
+    void ReadBytes(void* Buffer, std::size_t Count);
+
+    // Components.
+    void ReadSignature();
+    /// Reads a whole form: into Root, or with null into a new instance of the registered class, which the
+    /// caller then owns. After a failure a new instance is gone and a given root keeps what was read.
+    TComponent* ReadRootComponent(TComponent* Root = nullptr);
+    /// For ReadState: the properties and children of Instance.
+    void ReadData(TComponent& Instance);
+    /// For collection items and the like: properties up to the end of the list.
+    void ReadProperties(TPersistent& Instance);
+
+    void DefineProperty(const char* Name, const TReaderProc& ReadData, const TWriterProc& WriteData,
+                        bool HasData) override;
+    void DefineBinaryProperty(const char* Name, const TStreamProc& ReadData, const TStreamProc& WriteData,
+                              bool HasData) override;
+
+    /// Owner and parent of the components being read.
+    TComponent* GetOwner() const { return FOwner; }
+    void SetOwner(TComponent* Owner) { FOwner = Owner; }
+    TComponent* GetParent() const { return FParent; }
+    void SetParent(TComponent* Parent) { FParent = Parent; }
+
+    /// Where the last error lies: first byte of the property's name, or of the object's class name.
+    std::int64_t GetErrorPosition() const { return FErrorPosition; }
+    /// References of the form that named nothing; they stay null.
+    const std::vector<AnsiString>& GetUnresolved() const { return FUnresolved; }
+
+    /// Handled = true skips the property or object at fault and goes on. Damage to the file's structure is
+    /// not offered: nothing after it can be trusted.
+    std::function<void(TReader&, const Exception& Error, bool& Handled)> OnError;
+    /// Assigns the handler of that name to Event; asked for names that the root does not publish.
+    std::function<void(TReader&, TEventBase& Event, const AnsiString& Name, bool& Handled)> OnFindMethod;
+    /// May give the class of an unregistered name.
+    std::function<void(TReader&, const AnsiString& Name, const TClass*& Class)> OnFindComponentClass;
+    /// May change the name an object is given.
+    std::function<void(TReader&, TComponent* Component, AnsiString& Name)> OnSetName;
+    /// May give the component of a name that the form does not have.
+    std::function<TComponent*(TReader&, const AnsiString& Name)> OnFindReference;
+
+private:
+    struct TObjectHeader;
+    struct TPath;
+    class TDepth;
+    class TChildScope;
+
+    [[noreturn]] void InvalidValue();
+    std::int64_t Available();
+    std::uint32_t ReadLength(std::uint32_t UnitSize);
+    std::uint64_t ReadLittleEndian(int Count);
+    void SkipBytes(std::int64_t Count);
+    void SkipList();
+    void SkipCollection();
+    void SkipProperty();
+    void SkipComponent();
+    void SkipComponentBody();
+
+    TObjectHeader ReadHeader();
+    void ReadRoot(TComponent& Root, const TObjectHeader& Header);
+    void ReadChild();
+    TComponent* CreateChild(const TObjectHeader& Header);
+    TComponent* FindInherited(const TObjectHeader& Header);
+    void NameComponent(TComponent& Component, AnsiString Name);
+    const TClass& ComponentClass(const AnsiString& Name);
+    void ReadProperty(TPersistent& Instance);
+    void ReadNamedProperty(TPersistent& Instance, const AnsiString& Name);
+    void ReadPropertyValue(TPersistent& Instance, const TPropertyInfo& Property);
+    void ReadClassValue(TPersistent& Instance, const TPropertyInfo& Property);
+    void ReadMethodValue(TPersistent& Instance, const TPropertyInfo& Property);
+    TPropertyValue ReadOrdinal(const TTypeInfo& Type);
+    TPropertyValue ReadTypedFloat(const TTypeInfo& Type);
+    void ReportOrRaise(const Exception& Error, std::int64_t Position, bool& Handled);
+    void FinishLoading();
+    void AbandonLoading();
+
+    TStream& FStream;
+    std::vector<std::uint8_t> FBuffer;
+    std::size_t FBufferPosition = 0;
+    int FDepth = 0;
+    TComponent* FOwner = nullptr;
+    TComponent* FParent = nullptr;
+    AnsiString FDefinedName;
+    bool FDefinedRead = false;
+    std::int64_t FErrorPosition = 0;
+    std::vector<AnsiString> FUnresolved;
+    std::unique_ptr<TLoadList> FLoading;
+};
+
+} // namespace vcl
