@@ -5,7 +5,7 @@
 #include "vcl/classes/Component.h"
 #include "vcl/controls/ControlTypes.h"
 #include "vcl/controls/Liveness.h"
-#include "vcl/controls/MenuBase.h"
+#include "vcl/controls/PopupMenuBase.h"
 #include "vcl/controls/SizeConstraints.h"
 #include "vcl/graphics/Font.h"
 #include "vcl/platform/Messages.h"
@@ -96,8 +96,8 @@ public:
     void SetParentFont(bool Value);
     bool GetParentShowHint() const { return FParentShowHint; }
     void SetParentShowHint(bool Value);
-    TMenuBase* GetPopupMenu() const { return FPopupMenu; }
-    void SetPopupMenu(TMenuBase* Value);
+    TPopupMenuBase* GetPopupMenu() const { return FPopupMenu; }
+    void SetPopupMenu(TPopupMenuBase* Value);
     bool GetShowHint() const { return FShowHint; }
     void SetShowHint(bool Value);
     bool GetVisible() const { return FVisible; }
@@ -198,7 +198,7 @@ public:
 
     // Called by TWinControl, the drag and the hint machinery.
     /// The popup menu this control opens itself; descendants may choose one when asked.
-    virtual TMenuBase* GetPopupMenuToShow() { return FPopupMenu; }
+    virtual TPopupMenuBase* GetPopupMenuToShow() { return FPopupMenu; }
     virtual void DoStartDrag(TDragObject*& DragObject) { OnStartDrag(this, DragObject); }
     virtual void DoEndDrag(TObject* Target, int X, int Y) { OnEndDrag(this, Target, X, Y); }
     virtual void DragOver(TObject* Source, int X, int Y, TDragState State, bool& Accept);
@@ -293,7 +293,7 @@ private:
     AnsiString FHint;
     std::unique_ptr<TFont> FFont;
     std::unique_ptr<TSizeConstraints> FConstraints;
-    TMenuBase* FPopupMenu = nullptr;
+    TPopupMenuBase* FPopupMenu = nullptr;
     TRect FAnchorBounds;
     TSize FAnchorParentSize;
     int FHelpContext = 0;

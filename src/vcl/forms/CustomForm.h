@@ -1,6 +1,7 @@
 #pragma once
 
 #include "vcl/controls/CustomControl.h"
+#include "vcl/controls/Menu.h"
 #include "vcl/forms/FormTypes.h"
 
 namespace vcl
@@ -29,8 +30,8 @@ public:
     void SetFormStyle(TFormStyle Value);
     bool GetKeyPreview() const override { return FKeyPreview; }
     void SetKeyPreview(bool Value) { FKeyPreview = Value; }
-    TMenuBase* GetMenu() const { return FMenu; }
-    void SetMenu(TMenuBase* Value);
+    TMainMenu* GetMenu() const { return FMenu; }
+    void SetMenu(TMainMenu* Value);
     bool GetOldCreateOrder() const { return FOldCreateOrder; }
     void SetOldCreateOrder(bool Value) { FOldCreateOrder = Value; }
     /// The resolution the form was designed for; loading scales from it to 96. 0 while Scaled is false.
@@ -134,7 +135,7 @@ private:
 
     TWinControl* FActiveControl = nullptr;
     TWinControl* FFocusedControl = nullptr;
-    TMenuBase* FMenu = nullptr;
+    TMainMenu* FMenu = nullptr;
     TSize FLoadedClientSize{-1, -1};
     int FPixelsPerInch = 96;
     int FTextHeight = 0;
