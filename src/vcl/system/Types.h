@@ -5,6 +5,13 @@
 namespace vcl
 {
 
+/// Value, or the nearest int when it lies beyond. Coordinates reach this way for the end of the range instead
+/// of overflowing.
+constexpr int SaturateToInt(std::int64_t Value)
+{
+    return Value < INT32_MIN ? INT32_MIN : Value > INT32_MAX ? INT32_MAX : static_cast<int>(Value);
+}
+
 /// A point in pixels; x to the right, y down.
 struct TPoint {
     int X = 0;
@@ -26,8 +33,8 @@ struct TRect {
     int Right = 0;
     int Bottom = 0;
 
-    constexpr int Width() const { return Right - Left; }
-    constexpr int Height() const { return Bottom - Top; }
+    constexpr int Width() const { return SaturateToInt(std::int64_t{Right} - Left); }
+    constexpr int Height() const { return SaturateToInt(std::int64_t{Bottom} - Top); }
     constexpr bool IsEmpty() const { return Right <= Left || Bottom <= Top; }
     constexpr bool Contains(TPoint Point) const
     {
@@ -38,7 +45,7 @@ struct TRect {
 
 constexpr TRect Bounds(int Left, int Top, int Width, int Height)
 {
-    return {Left, Top, Left + Width, Top + Height};
+    return {Left, Top, SaturateToInt(std::int64_t{Left} + Width), SaturateToInt(std::int64_t{Top} + Height)};
 }
 
 using TDateTime = double;
