@@ -13,7 +13,7 @@ constexpr std::uint32_t Opaque = 0xFF000000;
 
 std::uint32_t PixelAt(TBitmap& Bitmap, int X, int Y)
 {
-    const TPixelBuffer Pixels = Bitmap.GetSurface().Pixels();
+    const TPixelBuffer Pixels = Bitmap.GetSurface().Buffer();
     return Pixels.Pixels[static_cast<std::size_t>(Y) * static_cast<std::size_t>(Pixels.Stride) +
                          static_cast<std::size_t>(X)];
 }

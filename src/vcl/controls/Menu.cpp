@@ -1,5 +1,8 @@
 #include "vcl/controls/Menu.h"
 
+#include "vcl/controls/WinControl.h"
+#include "vcl/platform/Platform.h"
+
 namespace vcl
 {
 
@@ -13,6 +16,18 @@ const TClass& TMenu::StaticClass()
 const TClass& TMainMenu::StaticClass()
 {
     static const TClass Class = DefineClass<TMainMenu, TMenu>("TMainMenu", {Publish("Images")});
+    return Class;
+}
+
+const TClass& TPopupMenu::StaticClass()
+{
+    static const TClass Class = DefineClass<TPopupMenu, TMenu>(
+        "TPopupMenu",
+        {
+            Published<&TPopupMenu::GetAutoPopup, &TPopupMenu::SetAutoPopup>("AutoPopup").Default(true),
+            Publish("Images"),
+            Published<&TPopupMenu::OnPopup>("OnPopup"),
+        });
     return Class;
 }
 
@@ -57,8 +72,15 @@ bool TMenu::DispatchCommand(unsigned Command)
     return Item != nullptr;
 }
 
-bool TMenu::DispatchShortCut(TShortCut ShortCut)
+bool TMenu::DispatchShortCut(std::uint16_t Key, TShiftState Shift)
 {
+    TShortCut ShortCut = Key;
+    if (Shift.Contains(TShiftKey::ssShift))
+        ShortCut |= scShift;
+    if (Shift.Contains(TShiftKey::ssCtrl))
+        ShortCut |= scCtrl;
+    if (Shift.Contains(TShiftKey::ssAlt))
+        ShortCut |= scAlt;
     TMenuItem* const Item = FItems->FindShortCut(ShortCut);
     if (!Item || !Item->GetEnabled())
         return false;
@@ -88,6 +110,19 @@ void TMenu::Loaded()
 {
     TPopupMenuBase::Loaded();
     MenuChanged();
+}
+
+void TPopupMenu::Popup(int X, int Y)
+{
+    OnPopup(this);
+    TMenuSpec Spec = BuildSpec();
+    const TControl* const Control = As<TControl>(GetPopupComponent());
+    Spec.RightToLeft = Control && Control->UseRightToLeftReading();
+    TWinControl* const Window = As<TWinControl>(GetPopupComponent());
+    const unsigned Command =
+        Platform().Windows().PopupMenu(Spec, {X, Y}, Window ? Window->GetWindow() : nullptr);
+    if (Command != 0)
+        DispatchCommand(Command);
 }
 
 } // namespace vcl

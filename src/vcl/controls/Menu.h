@@ -2,6 +2,7 @@
 
 #include <memory>
 
+#include "vcl/controls/ControlTypes.h"
 #include "vcl/controls/MenuItem.h"
 #include "vcl/controls/PopupMenuBase.h"
 
@@ -26,13 +27,15 @@ public:
     /// Clicks the item with the command; false when there is none.
     bool DispatchCommand(unsigned Command);
     /// Clicks the enabled item with the shortcut; false when there is none.
-    bool DispatchShortCut(TShortCut ShortCut);
+    bool DispatchShortCut(std::uint16_t Key, TShiftState Shift);
     /// Called by the items. Tells OnChanged unless the menu is being loaded or destroyed.
     void MenuChanged();
 
     bool GetAutoPopup() const override { return false; }
-    void SetPopupComponent(TComponent*) override {}
+    void SetPopupComponent(TComponent* Component) override { FPopupComponent = Component; }
+    TComponent* GetPopupComponent() const { return FPopupComponent; }
     void Popup(int, int) override {}
+
     void GetChildren(const std::function<void(TComponent*)>& Receive, TComponent* Root) override;
     void SetChildOrder(TComponent* Child, int Order) override { FItems->SetChildOrder(Child, Order); }
 
@@ -46,6 +49,7 @@ protected:
 private:
     std::unique_ptr<TMenuItem> FItems;
     TCustomImageList* FImages = nullptr;
+    TComponent* FPopupComponent = nullptr;
     TChangeLink FImagesLink;
 };
 
@@ -55,6 +59,25 @@ class TMainMenu : public TMenu
     VCL_CLASS
 public:
     using TMenu::TMenu;
+};
+
+/// A menu that opens at a point, by itself for the context menu of the controls that name it.
+class TPopupMenu : public TMenu
+{
+    VCL_CLASS
+public:
+    using TMenu::TMenu;
+
+    bool GetAutoPopup() const override { return FAutoPopup; }
+    void SetAutoPopup(bool Value) { FAutoPopup = Value; }
+
+    void Popup(int X, int Y) override;
+
+    /// Before the menu opens: the place to enable and check items for what the menu is opened for.
+    TNotifyEvent OnPopup;
+
+private:
+    bool FAutoPopup = true;
 };
 
 } // namespace vcl

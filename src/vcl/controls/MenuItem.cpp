@@ -40,7 +40,9 @@ const TClass& TMenuItem::StaticClass()
     return Class;
 }
 
-TMenuItem::TMenuItem(TComponent* Owner) : TComponent(Owner), FCommand(NextCommand()) {}
+TMenuItem::TMenuItem(TComponent* Owner) : TComponent(Owner), FCommand(NextCommand())
+{
+}
 
 TMenuItem::~TMenuItem()
 {
