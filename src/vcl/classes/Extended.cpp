@@ -40,6 +40,16 @@ TExtended TExtended::FromParts(bool Negative, int Exponent, std::uint64_t Signif
     return Result;
 }
 
+TExtended TExtended::FromInt64(std::int64_t Value)
+{
+    if (Value == 0)
+        return {};
+    const std::uint64_t Bits = static_cast<std::uint64_t>(Value);
+    const std::uint64_t Magnitude = Value < 0 ? ~Bits + 1 : Bits;
+    const int Leading = std::countl_zero(Magnitude);
+    return FromParts(Value < 0, TopBitBias + 63 - Leading, Magnitude << Leading);
+}
+
 TExtended::TExtended(double Value)
 {
     const std::uint64_t Bits = std::bit_cast<std::uint64_t>(Value);

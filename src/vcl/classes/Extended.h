@@ -39,6 +39,8 @@ public:
     /// The parts of the format: value = Significand * 2^(Exponent - 16446).
     std::uint64_t Significand() const;
     int Exponent() const { return (FBytes[9] & 0x7F) << 8 | FBytes[8]; }
+    /// Exact.
+    static TExtended FromInt64(std::int64_t Value);
     static TExtended FromParts(bool Negative, int Exponent, std::uint64_t Significand);
 
     /// The shortest of at most 21 significant digits that Parse turns into the same bytes, in positional

@@ -11,6 +11,13 @@ namespace vcl
 class TCollection;
 class TLoadList;
 
+/// A reference that named nothing.
+struct TUnresolvedReference {
+    AnsiString Property; // "Form1.Button2.Buddy"
+    AnsiString Name;
+    std::int64_t Position = 0; // of the property in the stream
+};
+
 /// Reads components from a binary form image.
 ///
 ///     TFileStream Stream("main.dfm", fmOpenRead);
@@ -86,7 +93,7 @@ public:
     /// Where the last error lies: first byte of the property's name, or of the object's class name.
     std::int64_t GetErrorPosition() const { return FErrorPosition; }
     /// References of the form that named nothing; they stay null.
-    const std::vector<AnsiString>& GetUnresolved() const { return FUnresolved; }
+    const std::vector<TUnresolvedReference>& GetUnresolved() const { return FUnresolved; }
 
     /// Handled = true skips the property or object at fault and goes on. Damage to the file's structure is
     /// not offered: nothing after it can be trusted.
@@ -102,38 +109,45 @@ public:
 
 private:
     struct TObjectHeader;
-    struct TPath;
     class TDepth;
-    class TChildScope;
+    friend class TLoadList;
 
-    [[noreturn]] void InvalidValue();
+    [[noreturn]] static void InvalidValue();
     std::int64_t Available();
-    std::uint32_t ReadLength(std::uint32_t UnitSize);
+    std::size_t ReadLength(std::size_t UnitSize);
     std::uint64_t ReadLittleEndian(int Count);
     void SkipBytes(std::int64_t Count);
-    void SkipList();
-    void SkipCollection();
-    void SkipProperty();
-    void SkipComponent();
+    void SkipProperties();
     void SkipComponentBody();
+    std::uint8_t PeekByte();
+    std::uint8_t ReadByte();
+    AnsiString ReadCharacters(std::size_t Count);
 
     TObjectHeader ReadHeader();
     void ReadRoot(TComponent& Root, const TObjectHeader& Header);
     void ReadChild();
+    void ReadChildBody(TComponent& Component, const TObjectHeader& Header);
+    void ReadChildren(TComponent& Instance);
     TComponent* CreateChild(const TObjectHeader& Header);
     TComponent* FindInherited(const TObjectHeader& Header);
     void NameComponent(TComponent& Component, AnsiString Name);
     const TClass& ComponentClass(const AnsiString& Name);
     void ReadProperty(TPersistent& Instance);
     void ReadNamedProperty(TPersistent& Instance, const AnsiString& Name);
+    bool ReadDefinedProperty(TPersistent& Instance, const AnsiString& Name);
     void ReadPropertyValue(TPersistent& Instance, const TPropertyInfo& Property);
     void ReadClassValue(TPersistent& Instance, const TPropertyInfo& Property);
     void ReadMethodValue(TPersistent& Instance, const TPropertyInfo& Property);
-    TPropertyValue ReadOrdinal(const TTypeInfo& Type);
-    TPropertyValue ReadTypedFloat(const TTypeInfo& Type);
-    void ReportOrRaise(const Exception& Error, std::int64_t Position, bool& Handled);
-    void FinishLoading();
-    void AbandonLoading();
+    TPropertyValue ReadTypedValue(const TTypeInfo& Type);
+    std::int64_t ReadOrdinal(const TTypeInfo& Type);
+    bool IsAccepted(const Exception& Error, std::int64_t Position);
+    AnsiString PathOf(const TPersistent& Instance) const;
+
+    // What the load list does to components.
+    static bool Watch(TComponent& Component, TComponent& Watcher);
+    static void Unwatch(TComponent& Component, TComponent& Watcher);
+    static void TellLoaded(TComponent& Component);
+    static void EndLoading(TComponent& Component);
 
     TStream& FStream;
     std::vector<std::uint8_t> FBuffer;
@@ -141,10 +155,12 @@ private:
     int FDepth = 0;
     TComponent* FOwner = nullptr;
     TComponent* FParent = nullptr;
+    /// The name that DefineProperties is being asked for, and whether somebody knew it.
     AnsiString FDefinedName;
     bool FDefinedRead = false;
+    std::int64_t FPropertyPosition = 0;
     std::int64_t FErrorPosition = 0;
-    std::vector<AnsiString> FUnresolved;
+    std::vector<TUnresolvedReference> FUnresolved;
     std::unique_ptr<TLoadList> FLoading;
 };
 

@@ -62,21 +62,25 @@ public:
 
 private:
     struct TChildren;
-    class TAncestorScope;
+    class TDepth;
 
     TComponent* FindAncestor(TComponent& Component);
     TComponent* InlineAncestor(TComponent& Component);
-    void WriteHeader(TComponent& Component, TComponent* Ancestor);
+    void WriteHeader(TComponent& Component, TComponent* Inherited);
     void WriteChildren(TComponent& Component, TComponent* Ancestor);
     void WriteProperty(TPersistent& Instance, const TPropertyInfo& Property);
-    void WriteOrdinal(const TPropertyInfo& Property, std::int64_t Value);
-    void WriteObject(const TPropertyInfo& Property, TPersistent* Object, TPersistent* Other);
+    bool IsDefault(const TPropertyInfo& Property, const TPropertyValue& Value,
+                   const TPropertyValue* Ancestor) const;
+    void WriteTypedValue(const TTypeInfo& Type, const TPropertyValue& Value);
+    void WriteOrdinal(const TTypeInfo& Type, std::int64_t Value);
+    void WriteClass(const TPropertyInfo& Property, TPersistent* Object, TPersistent* Other, bool HasAncestor);
     void WriteReference(const TPropertyInfo& Property, TComponent* Object, TComponent* Other);
     void WriteMethod(const TPropertyInfo& Property, const TEventBase& Event, const TEventBase* Other);
     void WritePropertyName(std::string_view Name);
     bool CollectionsEqual(const TCollection& Left, const TCollection& Right);
 
     TStream& FStream;
+    /// Dotted names of the sub-objects around the property being written.
     AnsiString FPath;
     int FDepth = 0;
     /// The form, or frame, that the ancestors found below belong to.
