@@ -13,6 +13,9 @@ function(ks_shared_library NAME)
     target_link_libraries(${NAME} PUBLIC ${LIB_PUBLIC} PRIVATE ${LIB_PRIVATE})
     target_include_directories(${NAME} INTERFACE "$<BUILD_INTERFACE:${PROJECT_SOURCE_DIR}/src>"
                                                  "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}/kssuite>")
+    if(NOT KS_SANITIZE)
+        target_link_options(${NAME} PRIVATE -Wl,-z,defs)
+    endif()
     target_compile_features(${NAME} PUBLIC cxx_std_20)
     set_target_properties(${NAME} PROPERTIES
         LINKER_LANGUAGE CXX
@@ -31,7 +34,7 @@ list(FILTER ks_package_floors EXCLUDE REGEX "^vcl_")
 
 if("vcl_platform_qt" IN_LIST ks_vcl_floors AND "vcl_forms" IN_LIST ks_vcl_floors)
     ks_shared_library(vcl FLOORS ${ks_vcl_floors} PRIVATE Qt6::Widgets Qt6::PrintSupport Qt6::Svg)
-    if(ks_package_floors)
+    if(EXISTS "${PROJECT_SOURCE_DIR}/src/package/Package.cpp")
         ks_shared_library(KSSuite FLOORS ${ks_package_floors} PUBLIC vcl)
     endif()
 endif()

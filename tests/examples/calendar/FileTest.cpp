@@ -1,3 +1,5 @@
+#include <algorithm>
+
 #include "examples/calendar/Calendars.h"
 #include "planner/calendar/CalendarError.h"
 
@@ -130,6 +132,25 @@ TEST_F(Files, TheDayToOpenAtIsTheOneAskedForWhenSomethingIsNearOrElseTheNearest)
     EXPECT_EQ(Calendars.NearestDay(Day("2024-05-06")), Day("2020-01-01"));
     EXPECT_EQ(Calendars.NearestDay(Day("2019-12-28")), Day("2019-12-28"));
     EXPECT_EQ(Calendars.NearestDay(Day("2001-01-01")), Day("2010-01-01"));
+}
+
+TEST_F(Files, TheSampleCalendarsFillTheirWeekWithEveryKindOfEvent)
+{
+    const std::string Folder = KS_TEST_DATA "/../../examples/planner/data/";
+    TCalendarSet Calendars("UTC");
+    Calendars.Load({Folder + "sample.ics", Folder + "family.ics"});
+    const auto Week = Calendars.Events(Day("2026-03-16"), Day("2026-03-23"));
+    const auto Has = [&](bool TCalendarEvent::*Flag) {
+        return std::any_of(Week.Events.begin(), Week.Events.end(),
+                           [&](const TCalendarEvent& Each) { return Each.*Flag; });
+    };
+    EXPECT_GT(Week.Events.size(), 30u);
+    EXPECT_TRUE(Has(&TCalendarEvent::AllDay));
+    EXPECT_TRUE(Has(&TCalendarEvent::Private));
+    EXPECT_TRUE(Has(&TCalendarEvent::Reminder));
+    EXPECT_TRUE(Has(&TCalendarEvent::Recurring));
+    EXPECT_THAT(Week.Notes, IsEmpty());
+    EXPECT_THAT(Calendars.GetCalendar(0).File.GetNotes(), IsEmpty());
 }
 
 } // namespace
