@@ -1,11 +1,11 @@
 #pragma once
 
 #include <memory>
-#include <span>
 #include <vector>
 
 #include "vcl/graphics/Graphic.h"
 #include "vcl/graphics/Painter.h"
+#include "vcl/graphics/Resources.h"
 
 namespace vcl
 {
@@ -37,8 +37,8 @@ public:
     int GetHeight() const override;
     void SetWidth(int Value) override;
     void SetHeight(int Value) override;
-    /// Keeps the pixels both sizes share; new ones are white. Negative sizes, and pictures of more than 2^28
-    /// pixels, raise EInvalidGraphicOperation.
+    /// Keeps the pixels both sizes share; new ones are white. A size TSurface does not allow raises
+    /// EInvalidGraphicOperation.
     void SetSize(int Width, int Height);
     TPixelFormat GetPixelFormat() const { return FPixelFormat; }
     void SetPixelFormat(TPixelFormat Value);
@@ -82,6 +82,7 @@ protected:
     void WriteData(TStream& Stream) override;
 
 private:
+    void DetachCanvas();
     void Take(std::unique_ptr<TSurface> Surface, TPixelFormat Format, std::vector<std::uint8_t> File);
 
     std::unique_ptr<TSurface> FSurface;
@@ -91,11 +92,5 @@ private:
     TTransparentMode FTransparentMode = TTransparentMode::tmAuto;
     TColor FTransparentColor = clDefault;
 };
-
-/// Makes a named block of bytes known to LoadFromResourceName; names compare without regard to case. The
-/// bytes are not copied and must live as long as the program. Registering a name again replaces it.
-void RegisterResource(const AnsiString& Name, std::span<const std::uint8_t> Bytes);
-/// The bytes registered under Name; raises EResNotFound with the name.
-std::span<const std::uint8_t> FindResource(const AnsiString& Name);
 
 } // namespace vcl

@@ -92,6 +92,9 @@ public:
     /// One line of valid UTF-8 without tabs and line breaks; the pen position stays.
     void DrawTextRun(TPoint Origin, std::string_view DisplayText, bool RightToLeft);
 
+    /// Fills with the font's colour: underlines of access keys.
+    void FillTextColor(const TRect& Rect);
+
     // Pictures
     /// Null draws nothing.
     void Draw(int X, int Y, TGraphic* Graphic);
@@ -109,8 +112,8 @@ public:
     void SelectClipRegion(const TRegion* Region);
     /// Leaves only what also lies in Rect.
     void IntersectClipRect(const TRect& Rect);
-    /// The selected region, or nothing.
-    const std::optional<TRegion>& GetClipRegion() const { return FClip; }
+    /// The selected region in this canvas's coordinates, or nothing.
+    std::optional<TRegion> GetClipRegion() const;
     /// The part of the painter this canvas may reach at all, in the painter's coordinates; null: everything.
     void SetSystemClip(const TRegion* Region);
     /// True when nothing inside Rect can be painted.
@@ -143,7 +146,7 @@ protected:
 private:
     struct TSavedState;
 
-    TPoint ToPainter(TPoint Point) const { return {Point.X + FOrigin.X, Point.Y + FOrigin.Y}; }
+    TPoint ToPainter(TPoint Point) const;
     TRect ToPainter(const TRect& Rect) const;
     std::vector<TPoint> ToPainter(std::span<const TPoint> Points) const;
     void ApplyClip();
@@ -158,7 +161,7 @@ private:
     TPoint FOrigin;
     TFillMode FFillMode = TFillMode::fmAlternate;
     std::optional<TBackgroundMode> FBkMode;
-    std::optional<TRegion> FClip;
+    std::optional<TRegion> FClip; // both in the painter's coordinates
     std::optional<TRegion> FSystemClip;
     std::vector<std::unique_ptr<TSavedState>> FStack;
 };

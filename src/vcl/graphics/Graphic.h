@@ -37,6 +37,7 @@ public:
     virtual void LoadFromFile(const AnsiString& FileName);
     virtual void SaveToFile(const AnsiString& FileName);
 
+    /// The binary property "Data", written unless the graphic is empty or the same as the ancestor's.
     void DefineProperties(TFiler& Filer) override;
 
     /// After each change of size or content.
@@ -44,6 +45,8 @@ public:
 
 protected:
     void Changed();
+    /// Takes over Transparent without telling of it.
+    void CopyTransparent(const TGraphic& Other) { FTransparent = Other.FTransparent; }
     /// The value of the binary property "Data".
     virtual void ReadData(TStream& Stream) = 0;
     virtual void WriteData(TStream& Stream) = 0;

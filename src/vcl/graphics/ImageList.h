@@ -12,6 +12,23 @@ namespace vcl
 class TBitmap;
 class TCanvas;
 class TCustomImageList;
+class TStream;
+struct TListImage;
+
+/// How a picture is drawn: blended with BlendColor by a quarter or a half, on the background colour, or
+/// without one.
+enum class TDrawingStyle { dsFocus, dsSelected, dsNormal, dsTransparent };
+/// What is drawn: the picture or its mask.
+enum class TImageType { itImage, itMask };
+
+template <>
+struct TypeTraits<TDrawingStyle> {
+    static const TTypeInfo& Info();
+};
+template <>
+struct TypeTraits<TImageType> {
+    static const TTypeInfo& Info();
+};
 
 /// Hears of the changes of an image list it is registered with. The link unregisters itself when it dies and
 /// forgets the list when that dies.
@@ -61,6 +78,11 @@ public:
     void SetBkColor(TColor Value);
     TColor GetBlendColor() const { return FBlendColor; }
     void SetBlendColor(TColor Value);
+    TDrawingStyle GetDrawingStyle() const { return FDrawingStyle; }
+    void SetDrawingStyle(TDrawingStyle Value);
+    TImageType GetImageType() const { return FImageType; }
+    void SetImageType(TImageType Value);
+    /// False: pictures added without a mask colour stay opaque and Mask is ignored.
     bool GetMasked() const { return FMasked; }
     void SetMasked(bool Value);
     bool GetShareImages() const { return FShareImages; }
@@ -78,7 +100,7 @@ public:
     /// -1 deletes all pictures; another bad index raises EInvalidOperation.
     void Delete(int Index);
     void Clear();
-    void Move(int From, int To);
+    void Move(int CurIndex, int NewIndex);
     /// Copies one picture on the background colour (black when there is none) into Image.
     void GetBitmap(int Index, TBitmap* Image) const;
     /// Draws a picture; a bad index draws nothing. A disabled one is an embossed shape in the button colours.
@@ -105,14 +127,16 @@ protected:
     virtual void Change();
 
 private:
-    struct TImage;
-    using TImages = std::vector<std::unique_ptr<TImage>>;
+    using TImages = std::vector<std::unique_ptr<TListImage>>;
 
     void CheckIndex(int Index) const;
     void CheckImage(const TBitmap* Image) const;
     TImages Cut(const TBitmap* Image, const TBitmap* Mask, TColor MaskColor) const;
     void PicturesChanged();
-    void DrawDisabled(TCanvas& Canvas, int X, int Y, const TImage& Image) const;
+    void DrawEnabled(TCanvas& Canvas, const TRect& Rect, const TListImage& Image) const;
+    void DrawDisabled(TCanvas& Canvas, const TRect& Rect, const TListImage& Image) const;
+    template <class T>
+    void SetLook(T& Field, T Value);
 
     TImages FImages;
     std::vector<TChangeLink*> FLinks;
@@ -122,6 +146,8 @@ private:
     int FAllocBy = 4;
     TColor FBkColor = clNone;
     TColor FBlendColor = clNone;
+    TDrawingStyle FDrawingStyle = TDrawingStyle::dsNormal;
+    TImageType FImageType = TImageType::itImage;
     bool FMasked = true;
     bool FShareImages = false;
     bool FChanged = false;

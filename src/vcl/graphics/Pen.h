@@ -13,6 +13,9 @@ struct TypeTraits<TPenStyle> {
 template <>
 struct TypeTraits<TPenMode> {
     static const TTypeInfo& Info();
+    // Ordinals in form files differ from the numbers of the raster operations.
+    static TPropertyValue ToValue(TPenMode Mode);
+    static TPenMode FromValue(const TPropertyValue& Value);
 };
 
 /// What lines and outlines are drawn with. A new pen is solid, black and one pixel wide.
