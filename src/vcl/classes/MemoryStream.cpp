@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cstring>
 #include <new>
-#include <stdexcept>
+#include <utility>
 
 #include "vcl/classes/Properties.h"
 #include "vcl/classes/Stream.h"
@@ -12,15 +12,16 @@ namespace vcl
 namespace
 {
 
+/// More than this is a mistake in a position or size, not a wish.
+constexpr std::int64_t LargestSize = std::int64_t{1} << 36;
+
 /// Resizes, with running out of memory as the stream error it is to the caller.
 void Resize(std::vector<std::uint8_t>& Bytes, std::int64_t Size)
 {
-    try {
-        if (Size < 0 || static_cast<std::uint64_t>(Size) > Bytes.max_size())
-            throw std::length_error("size");
-        Bytes.resize(static_cast<std::size_t>(Size));
-    } catch (const std::length_error&) {
+    if (Size < 0 || Size > LargestSize)
         throw EStreamError("A stream in memory cannot hold " + IntToStr(Size) + " bytes");
+    try {
+        Bytes.resize(static_cast<std::size_t>(Size));
     } catch (const std::bad_alloc&) {
         throw EStreamError("Out of memory for a stream of " + IntToStr(Size) + " bytes");
     }

@@ -120,14 +120,6 @@ void TStringList::Exchange(int Index1, int Index2)
     Changed();
 }
 
-void TStringList::Move(int CurIndex, int NewIndex)
-{
-    if (CurIndex == NewIndex)
-        return;
-    CheckUnsorted();
-    TStrings::Move(CurIndex, NewIndex);
-}
-
 int TStringList::IndexOf(std::string_view Text) const
 {
     if (!FSorted)

@@ -46,7 +46,6 @@ public:
     void Delete(int Index) override;
     void Clear() override;
     void Exchange(int Index1, int Index2) override;
-    void Move(int CurIndex, int NewIndex) override;
 
     int IndexOf(std::string_view Text) const override;
     /// Looks for Text in a sorted list by binary search. Index becomes the place of the first such string, or

@@ -175,9 +175,7 @@ void TStrings::Move(int CurIndex, int NewIndex)
         return;
     const AnsiString Text = GetString(CurIndex);
     TObject* const Object = GetObject(CurIndex);
-    // Checked before the string is taken out, so that a wrong index loses nothing.
-    if (NewIndex < 0 || NewIndex >= GetCount())
-        RaiseIndexError(NewIndex);
+    // Taking out comes first: programs know that a move to a wrong index raises and has lost the string.
     Update([&] {
         Delete(CurIndex);
         InsertObject(NewIndex, Text, Object);

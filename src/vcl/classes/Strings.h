@@ -89,7 +89,8 @@ public:
     virtual void Delete(int Index) = 0;
     virtual void Clear() = 0;
     virtual void Exchange(int Index1, int Index2);
-    /// Takes a string out and puts it in again so that it stands at NewIndex; equal indexes do nothing.
+    /// Takes a string out and puts it in again so that it stands at NewIndex; equal indexes do nothing. When
+    /// NewIndex is wrong, or the list sorted, the error comes after the string was taken out.
     virtual void Move(int CurIndex, int NewIndex);
 
     /// A list of strings gives its strings, objects and separators; others as TPersistent.
