@@ -164,11 +164,11 @@ public:
     /// For TAliveGuard and TWeak.
     const TLiveness& GetLiveness() const { return FLiveness; }
 
-    void Assign(const TPersistent* Source) override;
     TComponent* GetParentComponent() const override;
     bool HasParent() const override { return FParent != nullptr; }
     void SetParentComponent(TComponent* Value) override;
     void SetName(const AnsiString& Value) override;
+    void DefineProperties(TFiler& Filer) override;
     void BeforeDestruction() override;
 
     bool IsAnchorsStored() const;
@@ -204,6 +204,8 @@ public:
     virtual void DragOver(TObject* Source, int X, int Y, TDragState State, bool& Accept);
     /// A control may refuse a drag it is the source of.
     virtual void DragCanceled() {}
+    /// The parent scrolls: moves along without counting as moved by the program.
+    void MoveWithContents(int DeltaX, int DeltaY);
     /// Takes this control's anchors for a new size of the parent's client area.
     void ParentResized(TSize NewClient, TRect& NewBounds) const;
 
@@ -273,7 +275,7 @@ protected:
 
 private:
     void DispatchMouse(TMessage& Message);
-    void DispatchInherited(TMessage& Message);
+    bool DispatchNotification(TMessage& Message);
     void ButtonDown(TMessage& Message, TMouseButton Button);
     void ButtonDoubleClicked(TMessage& Message, TMouseButton Button);
     void ButtonUp(TMessage& Message, TMouseButton Button);
@@ -284,8 +286,8 @@ private:
     void ApplyConstraints(int& NewWidth, int& NewHeight);
     void ConstraintsChanged();
     void FontObjectChanged();
-    template <class TField, class TValue>
-    void FollowParent(TField& Field, TValue Value, unsigned Msg);
+    void FollowParent(bool& Field, bool Value, unsigned Msg);
+    void TakeFromParent(unsigned Msg);
 
     TLiveness FLiveness;
     TWinControl* FParent = nullptr;
@@ -314,6 +316,7 @@ private:
     bool FParentFont = true;
     bool FParentShowHint = true;
     bool FAnchorMove = false;
+    int FWheelRest = 0; // what of a wheel's notch has not been used yet
 };
 
 /// The anchors that Align implies; a control's Anchors equal to these are not stored.

@@ -24,6 +24,8 @@ public:
     virtual bool SetFocusedControl(TWinControl* Control) = 0;
     virtual bool IsFormActive() const = 0;
     virtual bool GetKeyPreview() const = 0;
+    /// Ends the form's ShowModal when Result is not 0.
+    virtual void SetModalResult(int Result) = 0;
     /// A key that a menu of the form takes.
     virtual bool IsShortCut(std::uint16_t Key, TShiftState Shift) = 0;
 

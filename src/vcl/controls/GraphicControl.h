@@ -19,8 +19,9 @@ public:
     /// Coordinates of the control. Attached while the parent paints.
     TCanvas* GetCanvas() const { return FCanvas.get(); }
 
-    /// Called by the parent while it paints; Painter is the parent's, Origin this control's corner there.
-    void PaintOn(TCanvas& ParentCanvas, TPoint Origin);
+    /// Called by the parent while it paints: Origin is this control's corner, ParentClip (null: everything)
+    /// what is being painted, both in the coordinates of the parent's painter.
+    void PaintOn(TCanvas& ParentCanvas, TPoint Origin, const TRegion* ParentClip);
 
 protected:
     virtual void Paint() {}

@@ -78,7 +78,7 @@ public:
     /// The window object, null before the first handle. It may be there without a handle.
     IWindow* GetWindow() const { return FWindow.get(); }
     /// True when it and all its ancestors show.
-    bool GetShowing() const { return FShowing; }
+    bool GetShowing() const;
     void UpdateControlState();
 
     // Focus
@@ -136,7 +136,6 @@ public:
     void SetBounds(int Left, int Top, int Width, int Height) override;
     TRect GetClientRect() const override;
     TPoint GetClientOrigin() const override;
-    void SetParent(TWinControl* Value) override;
     void GetChildren(const std::function<void(TComponent*)>& Receive, TComponent* Root) override;
     void SetChildOrder(TComponent* Child, int Order) override;
     void BeforeDestruction() override;
@@ -194,7 +193,10 @@ protected:
     virtual void AdjustClientRect(TRect& /*Rect*/) {}
     /// Notice of a native peer (CN_COMMAND).
     virtual void PeerNotice(TPeerNotice /*Notice*/, std::int64_t /*Index*/) {}
-    virtual void ShowControl(TControl* /*Control*/);
+    /// A child wants to be seen (it gets the focus): descendants that show one of several bring it up.
+    virtual void ShowControl(TControl* Control);
+    /// The platform minimised, maximised or restored the window (SIZE_...).
+    virtual void PlatformState(unsigned /*State*/) {}
     /// Native peers: the colours and the font go to the window.
     void ApplyFontAndColors();
 
@@ -240,21 +242,33 @@ protected:
     virtual bool CanLiveWithoutParent() const { return false; }
 
 private:
-    friend class TFocus;
-
     bool DispatchWindow(TMessage& Message);
     bool DispatchNotification(TMessage& Message);
     bool DispatchKey(TMessage& Message);
     void CNKeyDown(TMessage& Message);
     void CNChar(TMessage& Message);
     bool RouteMouse(TMessage& Message);
-    void ClientSizeMayHaveChanged();
-    void ApplyScrollBars();
-    void ApplyBounds();
+    /// WM_SIZE when the client area has another size than last told, or Always.
+    void TellSize(bool Always = false);
+    void ApplyScrollBars(bool Always = false);
+    void ScrollBarsChanged();
+    bool IsSelfDrawn() const;
+    bool IsTopLevel() const { return FTopLevel; }
+    TPoint ClientInset() const;
+    void PlatformMoved(TMessage& Message);
+    void PaintContents(TCanvas& Canvas);
+    void TellMove(const TRect& Old);
+    void LoseHandle();
+    void FixupTabList();
+    void TakeCtl3DFromParent();
     void KillTimers();
     void WindowGone();
     void InsertChild(TControl* Control);
     void RemoveChild(TControl* Control);
+    void ReorderChild(TControl& Child, bool TopMost);
+    void RemoveFocus(bool Removing);
+    void AlignEdge(TControl* Changed, TAlign Align, TRect& Rest);
+    void AlignAnchored(TSize Client);
     void UpdateTabOrder(int Value);
     void PaintControls(TCanvas& Canvas);
     void ChildInvalidated(const TRect& Rect);
@@ -271,9 +285,12 @@ private:
     TSize FSentClientSize{-1, -1};
     AnsiString FImeName;
     int FAlignLevel = 0;
+    bool FAligning = false;
+    TWindowKind FKind = TWindowKind::Client;
     TImeMode FImeMode = TImeMode::imDontCare;
     std::int16_t FTabOrder = -1;
     bool FHandle = false;
+    bool FTopLevel = false;
     bool FShowing = false;
     bool FCtl3D = true;
     bool FParentCtl3D = true;

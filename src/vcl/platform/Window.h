@@ -107,7 +107,8 @@ public:
     virtual void SetParent(IWindow* Parent) = 0;
     virtual void SetBounds(const TRect& Bounds) = 0;
     virtual TRect GetBounds() const = 0;
-    /// The area without border and scroll bars. It has changed when WM_SIZE arrives.
+    /// The area without border and scroll bars. It follows SetStyle, SetBounds and SetScrollBar at once; the
+    /// owner tells itself of that. WM_SIZE and WM_MOVE come for changes that are not the owner's doing.
     virtual TSize GetClientSize() const = 0;
     /// The size the contents want (native peers: from text and font); {0, 0} when they do not care.
     virtual TSize GetPreferredSize() const { return {}; }

@@ -1,0 +1,12 @@
+#include "vcl/controls/PopupMenuBase.h"
+
+namespace vcl
+{
+
+const TClass& TPopupMenuBase::StaticClass()
+{
+    static const TClass Class = DefineClass<TPopupMenuBase, TComponent>("TPopupMenuBase");
+    return Class;
+}
+
+} // namespace vcl
