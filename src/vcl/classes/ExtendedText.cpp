@@ -165,17 +165,17 @@ TExtended Quotient(bool Negative, TNatural Top, TNatural Bottom)
     }
     int LowBit = std::max(TopBit - 63, -16382 - 63);
     LowBit <= 0 ? Top.ShiftLeft(-LowBit) : Bottom.ShiftLeft(LowBit);
+    // Long division in binary: the remainder moves up one bit a step, the divisor stays.
+    Bottom.ShiftLeft(63);
     std::uint64_t Bits = 0;
-    for (int Step = 63; Step >= 0; --Step) {
-        TNatural Part = Bottom;
-        Part.ShiftLeft(Step);
+    for (int Step = 0; Step < 64; ++Step) {
         Bits <<= 1;
-        if (Top.Compare(Part) >= 0) {
-            Top.Subtract(Part);
+        if (Top.Compare(Bottom) >= 0) {
+            Top.Subtract(Bottom);
             Bits |= 1;
         }
+        Top.ShiftLeft(1);
     }
-    Top.ShiftLeft(1);
     const int Half = Top.Compare(Bottom);
     if (Half > 0 || (Half == 0 && (Bits & 1) != 0))
         if (++Bits == 0) {
