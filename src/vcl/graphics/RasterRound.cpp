@@ -56,6 +56,10 @@ TRoundFrame FrameOf(const TSurface& Surface, const TPenStroke& Pen, const TDrawS
             Width == 1};
 }
 
+/// Fitted to Win32's pictures, which start and end arcs a little late.
+constexpr TArcShift ArcShift{0.5, 0.0};
+constexpr TArcShift ChordShift{1.0, 0.7};
+
 constexpr TSize WholeBox{std::numeric_limits<int>::max(), std::numeric_limits<int>::max()};
 
 TRect OrderedBox(const TRect& Rect)
@@ -67,6 +71,30 @@ TRect OrderedBox(const TRect& Rect)
 bool HasArea(const TRect& Box)
 {
     return Box.Left < Box.Right && Box.Top < Box.Bottom;
+}
+
+/// The outline's pixel inside the sector that lies nearest to where a radius meets the curve.
+TPoint NearestOnArc(const TRoundFrame& Figure, const TSector& Sector, TPoint Exact)
+{
+    constexpr int Reach = 2;
+    const TRect Around{Saturate(std::int64_t{Exact.X} - Reach), Saturate(std::int64_t{Exact.Y} - Reach),
+                       Saturate(std::int64_t{Exact.X} + Reach + 1),
+                       Saturate(std::int64_t{Exact.Y} + Reach + 1)};
+    const TRect Tried = IntersectionOf(Around, Figure.Outer.GetBox());
+    TPoint Best = Exact;
+    int BestDistance = 3 * Reach * Reach;
+    for (int Y = Tried.Top; Y < Tried.Bottom; ++Y) {
+        const TRoundRow Row = Figure.Row(Y);
+        for (int X = std::max(Row.Left, Tried.Left); X < std::min(Row.Right, Tried.Right); ++X) {
+            const int Distance = (X - Exact.X) * (X - Exact.X) + (Y - Exact.Y) * (Y - Exact.Y);
+            const bool IsOutline = X < Row.InnerLeft || X >= Row.InnerRight;
+            if (IsOutline && Distance < BestDistance && Sector.Contains(X, Y)) {
+                Best = {X, Y};
+                BestDistance = Distance;
+            }
+        }
+    }
+    return Best;
 }
 
 /// Calls Visit(From, To) for each run of pixels From .. To - 1 that Accept takes.
@@ -149,9 +177,12 @@ void TRasterPainter::ArcFigure(TArcKind Kind, const TDrawState& State, const TRe
     const TPenStroke Pen(FTarget, State);
     const TRoundFrame Figure = FrameOf(GetSurface(), Pen, State, Box, WholeBox);
     const TRect& Outer = Figure.Outer.GetBox();
-    const TSector Sector(Outer, Pen.CentreOf(From), Pen.CentreOf(To));
+    const TSector Sector(Outer, Pen.CentreOf(From), Pen.CentreOf(To),
+                         Kind == TArcKind::Chord ? ChordShift : ArcShift);
+    const TPoint Start = NearestOnArc(Figure, Sector, Sector.GetStart());
+    const TPoint End = NearestOnArc(Figure, Sector, Sector.GetEnd());
     const auto IsSwept = [&](int X, int Y) {
-        return Kind == TArcKind::Chord ? Sector.IsCutOff(X, Y) : Sector.Contains(X, Y);
+        return Kind == TArcKind::Chord ? Sector.IsCutOff(X, Y, Start, End) : Sector.Contains(X, Y);
     };
     const TInk Ink = Kind == TArcKind::Arc ? TInk() : BrushInk(State, State.Mode);
     const TRect Rows = IntersectionOf(Outer, FTarget.GetBounds());
@@ -163,8 +194,8 @@ void TRasterPainter::ArcFigure(TArcKind Kind, const TDrawState& State, const TRe
         if (!Ink.PaintsNothing())
             ForEachRun(
                 Left, Right, [&](int X) { return IsSwept(X, Y); },
-                [&](int Start, int Stop) { FTarget.Span(Y, Start, Stop, Ink); });
-        const auto AddRun = [&](int Start, int Stop) { Stroke.AddSpan(Y, Start, Stop); };
+                [&](int First, int Last) { FTarget.Span(Y, First, Last, Ink); });
+        const auto AddRun = [&](int First, int Last) { Stroke.AddSpan(Y, First, Last); };
         const auto IsOnArc = [&](int X) { return Sector.Contains(X, Y); };
         ForEachRun(Left, std::min(Row.InnerLeft, Right), IsOnArc, AddRun);
         ForEachRun(std::max(Row.InnerRight, Left), Right, IsOnArc, AddRun);
@@ -172,11 +203,11 @@ void TRasterPainter::ArcFigure(TArcKind Kind, const TDrawState& State, const TRe
     if (!Pen.IsVisible())
         return;
     if (Kind == TArcKind::Pie) {
-        Stroke.AddPath({Sector.GetStart(), Sector.GetCentre(), Sector.GetEnd()});
+        Stroke.AddPath({Start, Sector.GetCentre(), End});
     } else if (Kind == TArcKind::Chord) {
-        Stroke.AddPath({Sector.GetStart(), Sector.GetEnd()});
+        Stroke.AddPath({Start, End});
     }
-    Stroke.Emit([&](int Y, int Start, int Stop) { FTarget.Span(Y, Start, Stop, Pen.GetInk()); });
+    Stroke.Emit([&](int Y, int First, int Last) { FTarget.Span(Y, First, Last, Pen.GetInk()); });
 }
 
 } // namespace vcl

@@ -43,11 +43,14 @@ bool TRoundShape::IsCrossed(double X, double Y) const
     const auto Value = [&](double PointX, double PointY) {
         return PointX * PointX / SquareX + PointY * PointY / SquareY - 1;
     };
-    if (std::max(Value(X + 0.5, Y), Value(X, Y + 0.5)) <= 0)
+    // A curve that touches an outer corner counts as crossing, one that touches an inner corner does not: so
+    // one of two neighbours whose common corner it meets is taken.
+    constexpr double Touch = -1e-12;
+    if (std::max(Value(X + 0.5, Y), Value(X, Y + 0.5)) < Touch)
         return false;
     // The diamond's innermost point lies on the side between (X - 1/2, Y) and (X, Y - 1/2).
     const double Along = std::clamp(2 * (Y * SquareX - (X - 0.5) * SquareY) / (SquareX + SquareY), 0.0, 1.0);
-    return Value(X - 0.5 + Along / 2, Y - Along / 2) < 0;
+    return Value(X - 0.5 + Along / 2, Y - Along / 2) < Touch;
 }
 
 /// How far the curve lies from its vertical axis at a height; 0 above its apex.
@@ -88,15 +91,28 @@ TRoundRow TRoundShape::Row(int Y) const
     return {Saturate(Left), Saturate(InnerLeft), Saturate(InnerRight), Saturate(Right)};
 }
 
-TSector::TSector(const TRect& Box, TPoint From, TPoint To)
-    : FCentreX((double(Box.Left) + Box.Right - 1) / 2), FCentreY((double(Box.Top) + Box.Bottom - 1) / 2)
+TSector::TSector(const TRect& Box, TPoint From, TPoint To, const TArcShift& Shift)
+    : FCentreX((double(Box.Left) + Box.Right) / 2), FCentreY((double(Box.Top) + Box.Bottom) / 2)
 {
-    FFrom = Relative(From);
-    FTo = Relative(To);
-    FEverything = Cross(FFrom, FTo) == 0 && FFrom.X * FTo.X + FFrom.Y * FTo.Y >= 0;
+    const TVector Start = Relative(From);
+    const TVector End = Relative(To);
+    const double Radius = std::max(RadiusOf(std::int64_t{Box.Right} - Box.Left), 1.0);
+    // An arc too short for that keeps its radii: turned past each other they would sweep the wrong part.
+    const double Swept = std::atan2(Cross(Start, End), Start.X * End.X + Start.Y * End.Y);
+    const bool IsShort = Swept >= 0 && Swept * Radius < 2 * Shift.Start;
+    FFrom = IsShort ? Start : Turned(Start, Shift.Start / Radius);
+    FTo = IsShort ? End : Turned(End, Shift.End / Radius);
+    FEverything = Cross(Start, End) == 0 && Start.X * End.X + Start.Y * End.Y >= 0;
     FStart = OnEllipse(FFrom, Box);
     FEnd = OnEllipse(FTo, Box);
-    FCentre = {static_cast<int>(std::floor(FCentreX)), static_cast<int>(std::floor(FCentreY))};
+    FCentre = {Saturate(std::llround(std::floor(FCentreX))), Saturate(std::llround(std::floor(FCentreY)))};
+}
+
+TSector::TVector TSector::Turned(TVector Vector, double Angle)
+{
+    const double Cosine = std::cos(Angle);
+    const double Sine = std::sin(Angle);
+    return {Vector.X * Cosine - Vector.Y * Sine, Vector.X * Sine + Vector.Y * Cosine};
 }
 
 /// Counted upwards, so that counter-clockwise is the usual sense.
@@ -105,14 +121,20 @@ TSector::TVector TSector::Relative(TPoint Point) const
     return {Point.X - FCentreX, FCentreY - Point.Y};
 }
 
+/// Where the ray from the middle meets the ellipse, whose own middle lies half a pixel to the left and above.
 TPoint TSector::OnEllipse(TVector Direction, const TRect& Box) const
 {
-    const double RadiusX = RadiusOf(std::int64_t{Box.Right} - Box.Left);
-    const double RadiusY = RadiusOf(std::int64_t{Box.Bottom} - Box.Top);
-    const double Length = std::hypot(Direction.X * RadiusY, Direction.Y * RadiusX);
-    const double Stretch = Length > 0 ? RadiusX * RadiusY / Length : 0;
-    return {static_cast<int>(std::lround(FCentreX + Direction.X * Stretch)),
-            static_cast<int>(std::lround(FCentreY - Direction.Y * Stretch))};
+    const double RadiusX = std::max(RadiusOf(std::int64_t{Box.Right} - Box.Left), 0.5);
+    const double RadiusY = std::max(RadiusOf(std::int64_t{Box.Bottom} - Box.Top), 0.5);
+    // The ellipse as a unit circle, the ray from P in direction D: |P + t D| = 1.
+    const TVector D{Direction.X / RadiusX, Direction.Y / RadiusY};
+    const TVector P{0.5 / RadiusX, -0.5 / RadiusY};
+    const double A = D.X * D.X + D.Y * D.Y;
+    const double B = D.X * P.X + D.Y * P.Y;
+    const double C = P.X * P.X + P.Y * P.Y - 1;
+    const double Stretch = A > 0 ? (std::sqrt(std::max(B * B - A * C, 0.0)) - B) / A : 0;
+    return {Saturate(std::llround(FCentreX + Direction.X * Stretch)),
+            Saturate(std::llround(FCentreY - Direction.Y * Stretch))};
 }
 
 bool TSector::Contains(int X, int Y) const
@@ -125,12 +147,12 @@ bool TSector::Contains(int X, int Y) const
     return !(Cross(FTo, Point) > 0 && Cross(Point, FFrom) > 0);
 }
 
-bool TSector::IsCutOff(int X, int Y) const
+bool TSector::IsCutOff(int X, int Y, TPoint ArcStart, TPoint ArcEnd) const
 {
     if (FEverything)
         return true;
-    const TVector Start = Relative(FStart);
-    const TVector End = Relative(FEnd);
+    const TVector Start = Relative(ArcStart);
+    const TVector End = Relative(ArcEnd);
     const TVector Point = Relative({X, Y});
     return Cross({End.X - Start.X, End.Y - Start.Y}, {Point.X - Start.X, Point.Y - Start.Y}) <= 0;
 }

@@ -38,17 +38,23 @@ private:
     double FRadiusY;
 };
 
+/// How far the ends of an arc lie beyond the radii that give them, counter-clockwise and in pixels.
+struct TArcShift {
+    double Start = 0;
+    double End = 0;
+};
+
 /// The part of the plane that a radius sweeps counter-clockwise from the direction of one point to that of
 /// another; everything when both are the same.
 class TSector
 {
 public:
     /// Turns around the centre of the box.
-    TSector(const TRect& Box, TPoint From, TPoint To);
+    TSector(const TRect& Box, TPoint From, TPoint To, const TArcShift& Shift);
 
     bool Contains(int X, int Y) const;
-    /// Whether a point lies on the arc's side of the straight line between the arc's ends.
-    bool IsCutOff(int X, int Y) const;
+    /// Whether a point lies on the arc's side of the straight line between two points, its ends.
+    bool IsCutOff(int X, int Y, TPoint ArcStart, TPoint ArcEnd) const;
     /// Where the box's ellipse meets the two radii.
     TPoint GetStart() const { return FStart; }
     TPoint GetEnd() const { return FEnd; }
@@ -61,6 +67,7 @@ private:
         double Y;
     };
     static double Cross(TVector A, TVector B) { return A.X * B.Y - A.Y * B.X; }
+    static TVector Turned(TVector Vector, double Angle);
     TVector Relative(TPoint Point) const;
     TPoint OnEllipse(TVector Direction, const TRect& Box) const;
 

@@ -32,16 +32,32 @@ TSide SideOf(const TSurface& Surface, int First, int Last)
     return {From, To - From, Mirrored};
 }
 
+enum class TShrink { KeepFirst, KeepLast };
+
+/// Which of Source pixels lands on pixel Index of Target pixels. Enlarged, it is the one under the target
+/// pixel's centre, of two that meet there the first. Shrunk, several source centres fall on a target pixel,
+/// and one of them is kept.
+std::int64_t SourceOf(std::int64_t Index, std::int64_t Target, std::int64_t Source, TShrink Shrink)
+{
+    TWide Result = 0;
+    if (Target >= Source)
+        Result = CeilDiv(TWide{2 * Index + 1} * Source, TWide{2} * Target) - 1;
+    else if (Shrink == TShrink::KeepFirst)
+        Result = CeilDiv(CeilDiv(TWide{2 * Index} * Source, Target) - 1, 2);
+    else
+        Result = FloorDiv(CeilDiv(TWide{2 * Index + 2} * Source, Target) - 2, 2);
+    return static_cast<std::int64_t>(Result);
+}
+
 /// The source pixel of each target pixel from Low to High - 1, or Nowhere.
-std::vector<int> SourcesOf(const TSide& Target, const TSide& Source, int Low, int High, int SourceLimit)
+std::vector<int> SourcesOf(const TSide& Target, const TSide& Source, int Low, int High, int SourceLimit,
+                           TShrink Shrink)
 {
     std::vector<int> Result;
     Result.reserve(static_cast<std::size_t>(High - Low));
     const bool Mirrored = Target.Mirrored != Source.Mirrored;
     for (std::int64_t Pixel = Low; Pixel < High; ++Pixel) {
-        const std::int64_t Index = Pixel - Target.From;
-        auto Offset =
-            static_cast<std::int64_t>(FloorDiv(TWide{2 * Index + 1} * Source.Size, TWide{2} * Target.Size));
+        std::int64_t Offset = SourceOf(Pixel - Target.From, Target.Size, Source.Size, Shrink);
         if (Mirrored)
             Offset = Source.Size - 1 - Offset;
         const std::int64_t Place = Source.From + Offset;
@@ -115,9 +131,9 @@ void StretchCopyPixels(TRasterTarget& Target, const TRect& TargetRect, const TSu
     if (SourceX.Size <= 0 || SourceY.Size <= 0)
         return;
     const std::vector<int> Columns =
-        SourcesOf(TargetX, SourceX, Reached.Left, Reached.Right, Source.GetDeviceWidth());
-    const std::vector<int> Rows =
-        SourcesOf(TargetY, SourceY, Reached.Top, Reached.Bottom, Source.GetDeviceHeight());
+        SourcesOf(TargetX, SourceX, Reached.Left, Reached.Right, Source.GetDeviceWidth(), TShrink::KeepLast);
+    const std::vector<int> Rows = SourcesOf(TargetY, SourceY, Reached.Top, Reached.Bottom,
+                                            Source.GetDeviceHeight(), TShrink::KeepFirst);
     const TSourcePixels Pixels(Source, &Source == &Surface, Rows);
     const bool IsPlain = Transparent.empty() && AreNeighbours(Columns);
 
