@@ -1,7 +1,7 @@
 #include "planner/calendar/Rule.h"
 
+#include <cstdlib>
 #include <memory>
-#include <type_traits>
 
 #include "planner/calendar/IcalTime.h"
 
@@ -22,6 +22,21 @@ TSeconds LastSecond(const icaltimetype& Until, const TZone& Zone)
     if (Until.is_date)
         return Seconds + SecondsADay - 1;
     return icaltime_is_utc(Until) ? Zone.ToWall(Seconds) : Seconds;
+}
+
+/// A 23rd Monday of a month would be searched for in every month of all years.
+bool HasPossibleWeekdays(const icalrecurrencetype& Rule)
+{
+    const bool IsOfMonth =
+        Rule.freq == ICAL_MONTHLY_RECURRENCE || Rule.by_month[0] != ICAL_RECURRENCE_ARRAY_MAX;
+    const int Most = IsOfMonth ? 5 : 53;
+    for (const short Day : Rule.by_day) {
+        if (Day == ICAL_RECURRENCE_ARRAY_MAX)
+            break;
+        if (std::abs(icalrecurrencetype_day_position(Day)) <= Most)
+            return true;
+    }
+    return Rule.by_day[0] == ICAL_RECURRENCE_ARRAY_MAX;
 }
 
 } // namespace
@@ -55,11 +70,16 @@ TRule::TResult TRule::Expand(TSeconds Start, TSeconds From, TSeconds To) const
 TRule::TResult TRule::ExpandByDays(TSeconds Start, TSeconds From, TSeconds To) const
 {
     TResult Result;
-    if (To < Start)
+    if (To < Start || FNeverRecurs || !HasPossibleWeekdays(FRule))
         return Result;
+    icalrecurrencetype Rule = FRule;
+    // Keeps the search for the next time from going on after the range.
+    if (Rule.count == 0 && (icaltime_is_null_time(Rule.until) || ToSeconds(Rule.until) > To))
+        Rule.until = ToIcalTime(To, FIsDate);
     const icaltimetype First = ToIcalTime(Start, FIsDate);
-    const std::unique_ptr<icalrecur_iterator, TDeleteIterator> Iterator(icalrecur_iterator_new(FRule, First));
-    if (!Iterator)
+    const std::unique_ptr<icalrecur_iterator, TDeleteIterator> Iterator(icalrecur_iterator_new(Rule, First));
+    FNeverRecurs = Iterator == nullptr;
+    if (FNeverRecurs)
         return Result;
     // Only a rule without a count may be entered in the middle.
     if (FRule.count == 0 && From > Start)

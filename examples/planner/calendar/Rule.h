@@ -42,6 +42,8 @@ private:
 
     icalrecurrencetype FRule;
     bool FIsDate;
+    /// Found out by a search through all years, which is not repeated.
+    mutable bool FNeverRecurs = false;
 };
 
 } // namespace planner
