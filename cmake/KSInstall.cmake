@@ -24,6 +24,8 @@ write_basic_package_version_file("${PROJECT_BINARY_DIR}/KSSuiteConfigVersion.cma
 install(FILES "${PROJECT_BINARY_DIR}/KSSuiteConfig.cmake" "${PROJECT_BINARY_DIR}/KSSuiteConfigVersion.cmake"
         DESTINATION "${ks_package}")
 
+# Relative, so that the tree may be installed under another prefix or moved.
+file(RELATIVE_PATH ks_up_to_prefix "/${CMAKE_INSTALL_LIBDIR}/pkgconfig" "/")
 foreach(library IN LISTS ks_libraries)
     string(TOLOWER "${library}" name)
     configure_file("${PROJECT_SOURCE_DIR}/cmake/${name}.pc.in" "${PROJECT_BINARY_DIR}/${name}.pc" @ONLY)
