@@ -1,6 +1,5 @@
 #include "vcl/classes/Properties.h"
 
-#include <climits>
 #include <unordered_map>
 
 #include "vcl/system/Exception.h"
@@ -81,6 +80,11 @@ TTypeInfo FloatType(const char* Name, TFloatKind Kind)
     Info.Name = Name;
     Info.Float = Kind;
     return Info;
+}
+
+bool NeverStoredRule(const TPersistent&)
+{
+    return false;
 }
 
 TPropertyInfo TPropertyRow::Resolve(const TClass* Parent) const

@@ -113,6 +113,9 @@ struct TPropertyInfo {
     bool IsPublished = true;
 };
 
+/// The rule of NeverStored: always false, and the same function for every row so that tools can tell.
+bool NeverStoredRule(const TPersistent& Object);
+
 /// A row in the making; see Published, Declared and Publish.
 class TPropertyRow
 {
@@ -145,7 +148,7 @@ public:
     TPropertyRow NeverStored() const
     {
         TPropertyRow Row = *this;
-        Row.FInfo.IsStored = [](const TPersistent&) { return false; };
+        Row.FInfo.IsStored = &NeverStoredRule;
         Row.FStoredChanged = true;
         return Row;
     }

@@ -132,6 +132,8 @@ TComponent* TReader::ReadRootComponent(TComponent* Root)
 {
     ReadSignature();
     const TObjectHeader Header = ReadHeader();
+    FIsInherited = Header.IsInherited();
+    FRootClassName = Header.ClassName;
     std::unique_ptr<TComponent> Created;
     if (!Root) {
         Created.reset(static_cast<TComponent*>(ComponentClass(Header.ClassName).Create(nullptr)));
@@ -198,7 +200,9 @@ void TReader::ReadChildren(TComponent& Instance)
 
 TComponent* TReader::FindInherited(const TObjectHeader& Header)
 {
-    TComponent* const Found = FLookupRoot->FindComponent(Header.Name);
+    TComponent* Found = FLookupRoot->FindComponent(Header.Name);
+    if (!Found && OnAncestorNotFound)
+        OnAncestorNotFound(*this, Header.ClassName, Header.Name, Found);
     if (!Found)
         throw EReadError("The ancestor of " + Header.Name + " was not found");
     return Found;
@@ -257,6 +261,13 @@ void TReader::ReadChildBody(TComponent& Component, const TObjectHeader& Header)
         FParent->SetChildOrder(&Component, Header.ChildPosition);
     if (Header.IsInherited())
         Component.Updated();
+}
+
+void TReader::SkipRootComponent()
+{
+    ReadSignature();
+    ReadHeader();
+    SkipComponentBody();
 }
 
 void TReader::SkipComponentBody()

@@ -74,6 +74,9 @@ public:
     /// Reads a whole form: into Root, or with null into a new instance of the registered class, which the
     /// caller then owns. After a failure a new instance is gone and a given root keeps what was read.
     TComponent* ReadRootComponent(TComponent* Root = nullptr);
+    /// Passes over a whole form, signature included, and checks nothing but its structure. After an error the
+    /// reader's position tells where.
+    void SkipRootComponent();
     /// For ReadState: the properties and children of Instance.
     void ReadData(TComponent& Instance);
     /// For collection items and the like: properties up to the end of the list.
@@ -90,6 +93,10 @@ public:
     TComponent* GetParent() const { return FParent; }
     void SetParent(TComponent* Parent) { FParent = Parent; }
 
+    /// Whether the form being read is a descendant's, "inherited" in its first word.
+    bool IsInherited() const { return FIsInherited; }
+    /// The name of the root's class in the stream, which is not always that of the root.
+    const AnsiString& GetRootClassName() const { return FRootClassName; }
     /// Where the last error lies: first byte of the property's name, or of the object's class name.
     std::int64_t GetErrorPosition() const { return FErrorPosition; }
     /// References of the form that named nothing; they stay null.
@@ -102,6 +109,10 @@ public:
     std::function<void(TReader&, TEventBase& Event, const AnsiString& Name, bool& Handled)> OnFindMethod;
     /// May give the class of an unregistered name.
     std::function<void(TReader&, const AnsiString& Name, const TClass*& Class)> OnFindComponentClass;
+    /// May give the component that an "inherited" object means when the form has none of that name; it must
+    /// have been named and inserted.
+    std::function<void(TReader&, const AnsiString& ClassName, const AnsiString& Name, TComponent*& Component)>
+        OnAncestorNotFound;
     /// May change the name an object is given.
     std::function<void(TReader&, TComponent* Component, AnsiString& Name)> OnSetName;
     /// May give the component of a name that the form does not have.
@@ -153,6 +164,8 @@ private:
     std::vector<std::uint8_t> FBuffer;
     std::size_t FBufferPosition = 0;
     int FDepth = 0;
+    bool FIsInherited = false;
+    AnsiString FRootClassName;
     TComponent* FOwner = nullptr;
     TComponent* FParent = nullptr;
     /// The name that DefineProperties is being asked for, and whether somebody knew it.

@@ -81,13 +81,43 @@ private:
     {
         const TDepth Depth(*this);
         ConvertHeader();
-        while (FParser.GetKind() == TTokenKind::Symbol && !FParser.IsSymbol("end") && !AtObject())
-            ConvertProperty();
+        bool HasChildren = false;
+        while (!FParser.IsSymbol("end"))
+            ConvertPart(HasChildren);
+        if (!HasChildren)
+            FWriter.WriteListEnd();
         FWriter.WriteListEnd();
-        while (AtObject())
+        FEnd = FParser.GetTokenStart() + 3;
+        // Behind the form's own end stands nothing that is read.
+        if (FDepth > 1)
+            FParser.NextToken();
+    }
+
+    /// A property, or a child behind all properties.
+    void ConvertPart(bool& HasChildren)
+    {
+        if (AtObject()) {
+            if (!HasChildren)
+                FWriter.WriteListEnd();
+            HasChildren = true;
             ConvertObject();
-        FWriter.WriteListEnd();
-        ConvertEnd();
+        } else if (FParser.GetKind() == TTokenKind::Symbol && !HasChildren)
+            ConvertProperty();
+        else
+            RefusePart();
+    }
+
+    void RefusePart()
+    {
+        try {
+            FParser.ErrorExpected(FParser.GetKind() == TTokenKind::Symbol
+                                      ? "\"end\" or an object (properties stand before the objects)"
+                                      : "a property, an object or \"end\"");
+        } catch (const EFormParserError& Error) {
+            if (FParser.GetKind() == TTokenKind::End || !IsAccepted(Error))
+                throw;
+            FParser.Resynchronise(FParser.GetLine());
+        }
     }
 
     void ConvertHeader()
@@ -122,42 +152,11 @@ private:
         FWriter.WriteStr(Name);
     }
 
-    void ConvertEnd()
-    {
-        for (;;) {
-            if (FParser.IsSymbol("end")) {
-                FEnd = FParser.GetTokenStart() + 3;
-                // Behind the form's own end stands nothing that is read.
-                if (FDepth > 1)
-                    FParser.NextToken();
-                return;
-            }
-            try {
-                FParser.ErrorExpected(FParser.GetKind() == TTokenKind::Symbol
-                                          ? "\"end\" (properties stand before the objects)"
-                                          : "a property, an object or \"end\"");
-            } catch (const EFormParserError& Error) {
-                if (FParser.GetKind() == TTokenKind::End || !IsAccepted(Error))
-                    throw;
-                FParser.Resynchronise(FParser.GetLine());
-                SkipStrayProperties();
-            }
-        }
-    }
-
-    /// What stands where no property may stand has been reported once.
-    void SkipStrayProperties()
-    {
-        while (FParser.GetKind() == TTokenKind::Symbol && !FParser.IsSymbol("end"))
-            FParser.Resynchronise(FParser.GetLine());
-    }
-
     void ConvertProperty()
     {
         const std::int64_t Start = FOutput.GetPosition();
         const int Line = FParser.GetLine();
         const std::size_t Marks = FOptions.Positions ? FOptions.Positions->size() : 0;
-        const int Depth = FDepth;
         try {
             MarkPosition();
             AnsiString Name = TakeName();
@@ -174,7 +173,6 @@ private:
             // Inside an item the property around the collection is given up as a whole.
             if (FInItem || !IsAccepted(Error))
                 throw;
-            FDepth = Depth;
             if (FOptions.Positions)
                 FOptions.Positions->resize(Marks);
             Recover(Start, Line);
