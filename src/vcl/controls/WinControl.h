@@ -238,6 +238,9 @@ protected:
     /// The client area's canvas: draws into the control's pixels at any time.
     TCanvas& ClientCanvas();
 
+    /// WM_SIZE when the client area has another size than last told, or Always.
+    void TellSize(bool Always = false);
+
     /// A child's handle needs this; forms and embedded hosts say true without a parent.
     virtual bool CanLiveWithoutParent() const { return false; }
 
@@ -248,8 +251,6 @@ private:
     void CNKeyDown(TMessage& Message);
     void CNChar(TMessage& Message);
     bool RouteMouse(TMessage& Message);
-    /// WM_SIZE when the client area has another size than last told, or Always.
-    void TellSize(bool Always = false);
     void ApplyScrollBars(bool Always = false);
     void ScrollBarsChanged();
     bool IsSelfDrawn() const;

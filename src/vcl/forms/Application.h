@@ -15,13 +15,13 @@ class THintController;
 
 using TExceptionEvent = TEvent<void(TObject* Sender, const std::exception& Error)>;
 using TIdleEvent = TEvent<void(TObject* Sender, bool& Done)>;
-using TMessageEvent = TEvent<void(TWinControl* Control, TMessage& Message, bool& Handled)>;
 
 /// The program: its event loop, its hints, and where exceptions end that no handler caught.
 class TApplication : public TComponent, public IProgram, private ISystemListener
 {
     VCL_CLASS
 public:
+    /// The one instance is Application().
     TApplication();
     ~TApplication() override;
 
@@ -61,6 +61,13 @@ public:
     void HandleException(TObject* Sender) override;
     void ShowException(const std::exception& Error);
 
+    /// Listens to the current platform's windows; forms see to it.
+    void Attach();
+    /// Leaves the platform's windows before another platform is installed.
+    void Detach();
+    /// Called by the form.
+    void FormDestroyed(TCustomForm* Form);
+
     // IProgram
     void HintMouseMessage(TControl* Control, const TMessage& Message) override;
     void ControlDestroyed(TControl* Control) override;
@@ -74,14 +81,10 @@ public:
     TNotifyEvent OnSettingChange;
 
 private:
-    friend class TCustomForm;
-    friend class THintController;
-
     void SystemChanged(TSystemChange Change) noexcept override;
     void ProgramActivated(bool Active) noexcept override;
     bool Idle() noexcept override;
     void PlatformEnding() noexcept override;
-    void Attach();
 
     std::unique_ptr<THintController> FHints;
     IWindowSystem* FAttached = nullptr;

@@ -10,7 +10,13 @@ namespace vcl
 /// A top-level window: it owns its components, keeps one active control, and moves the focus for Tab and
 /// arrows.
 ///
-/// Its bounds stand in screen coordinates and include the frame; ClientWidth and ClientHeight do not.
+///     TForm Form(nullptr);
+///     LoadForm(Form, "main.dfm");
+///     Form.Show();
+///     Application().Run();
+///
+/// Its bounds stand in screen coordinates and include the frame; ClientWidth and ClientHeight do not. A
+/// client size given before there is a window is kept and becomes the window's.
 class TCustomForm : public TCustomControl, public IFormSite
 {
     VCL_CLASS
@@ -32,33 +38,32 @@ public:
     void SetKeyPreview(bool Value) { FKeyPreview = Value; }
     TMainMenu* GetMenu() const { return FMenu; }
     void SetMenu(TMainMenu* Value);
+    /// Kept for form files: OnCreate always comes when the form is complete.
     bool GetOldCreateOrder() const { return FOldCreateOrder; }
     void SetOldCreateOrder(bool Value) { FOldCreateOrder = Value; }
-    /// The resolution the form was designed for; loading scales from it to 96. 0 while Scaled is false.
-    int GetPixelsPerInch() const;
+    /// Dots an inch the form was designed for; loading scales from them to 96. Values below 1 are ignored.
+    int GetPixelsPerInch() const { return FPixelsPerInch; }
     void SetPixelsPerInch(int Value);
-    /// Height of a digit in the form's font, as form files keep it.
-    int GetTextHeight();
-    void SetTextHeight(int Value) { FTextHeight = Value; }
+    /// Whether loading scales.
     bool GetScaled() const { return FScaled; }
-    void SetScaled(bool Value);
+    void SetScaled(bool Value) { FScaled = Value; }
     TPosition GetPosition() const { return FPosition; }
-    void SetPosition(TPosition Value);
+    void SetPosition(TPosition Value) { FPosition = Value; }
     TWindowState GetWindowState() const { return FWindowState; }
     void SetWindowState(TWindowState Value);
 
     TModalResult GetModalResult() const { return FModalResult; }
     /// Ends ShowModal when it is not 0.
-    void SetModalResult(TModalResult Value);
+    void SetModalResult(TModalResult Value) override;
     bool GetActive() const { return FActive; }
     bool IsModal() const { return FModal; }
 
     // Life
     void Show();
-    void Hide() { SetVisible(false); }
     /// Shows the form, blocks the program's other windows, and returns the result that closed it.
     TModalResult ShowModal();
-    /// Asks OnCloseQuery, then does what OnClose says (hide, unless it says otherwise).
+    /// Asks OnCloseQuery, then does what OnClose says: hide, unless it says otherwise. The main form ends the
+    /// program.
     void Close();
     /// Frees the form when everything under way has ended.
     void Release();
@@ -74,18 +79,19 @@ public:
     bool IsShortCut(std::uint16_t Key, TShiftState Shift) override;
 
     void SetFocus() override;
-    void SetParent(TWinControl* Value) override;
+    void SetBounds(int Left, int Top, int Width, int Height) override;
     void SetClientSize(TSize Value) override;
     TRect GetClientRect() const override;
     void GetChildren(const std::function<void(TComponent*)>& Receive, TComponent* Root) override;
+    TComponent* GetChildOwner() override { return nullptr; }
+    void DefineProperties(TFiler& Filer) override;
     void AfterConstruction() override;
     void BeforeDestruction() override;
-    void WndProc(TMessage& Message) override;
+    void Dispatch(TMessage& Message) override;
 
-    bool IsClientSizeStored() const { return !IsFormSizeStored(); }
-    bool IsFormSizeStored() const;
-    bool IsFormStored() const { return true; }
-    bool IsPixelsPerInchStored() const { return FScaled; }
+    /// A form's size is stored as that of its client area.
+    bool IsFormSizeStored() const { return GetParent() != nullptr; }
+    bool IsClientSizeStored() const { return GetParent() == nullptr; }
 
     // Events
     TNotifyEvent OnActivate;
@@ -110,35 +116,36 @@ protected:
     void CreateParams(TCreateParams& Params) override;
     void CreateWnd() override;
     void Paint() override { OnPaint(this); }
-    void ReadState(TReader& Reader) override;
     void Loaded() override;
-    void DefineProperties(TFiler& Filer) override;
     void Notification(TComponent* Component, TOperation Operation) override;
-    void UpdateShowing() override;
     bool CanLiveWithoutParent() const override { return true; }
+    void PlatformState(unsigned State) override;
 
     void CMDialogKey(TMessage& Message) override;
     void CMShowingChanged(TMessage& Message) override;
-    void CMFontChanged(TMessage& Message) override;
-    void WMSetFocus(TMessage& Message) override;
+    void CMTextChanged(TMessage& Message) override;
 
 private:
     void WMActivate(TMessage& Message);
     void WMCommand(TMessage& Message);
-    void MenuChanged();
+    void ShowMenu();
     void SetActive(bool Value);
     void SetWindowFocus();
-    bool MoveFocus(std::uint16_t Key, TShiftState Shift);
+    void Leave(TWinControl* Control, TAliveGuard& Guard);
+    void Enter(TWinControl* Control, TAliveGuard& Guard);
+    bool SelectNextByTab(bool Forward);
     void PlaceOnScreen();
     void ApplyDesignResolution();
     void CloseModal();
+    std::uint32_t FrameStyle() const;
 
     TWinControl* FActiveControl = nullptr;
     TWinControl* FFocusedControl = nullptr;
     TMainMenu* FMenu = nullptr;
-    TSize FLoadedClientSize{-1, -1};
+    TSize FWantedClientSize{-1, -1};
     int FPixelsPerInch = 96;
     int FTextHeight = 0;
+    int FFocusCount = 0;
     TModalResult FModalResult = mrNone;
     TBorderIcons FBorderIcons{TBorderIcon::biSystemMenu, TBorderIcon::biMinimize, TBorderIcon::biMaximize};
     TFormBorderStyle FBorderStyle = TFormBorderStyle::bsSizeable;
