@@ -47,14 +47,6 @@ TFontCache& Fonts()
     return *Mine.Cache;
 }
 
-/// Fonts must not outlive the application they came from.
-void DropFontsOfMainThread()
-{
-    TTextEngine::FontsChanged();
-    if (ThreadFonts().hasLocalData())
-        ThreadFonts().setLocalData(nullptr);
-}
-
 bool HaveApplication()
 {
     return qobject_cast<QGuiApplication*>(QCoreApplication::instance()) != nullptr;
@@ -93,7 +85,14 @@ void DrawTextLine(const TTextRun& Run, const TGlyphTarget& Glyphs, const TPixelB
 
 TTextEngine::TTextEngine()
 {
-    qAddPostRoutine(DropFontsOfMainThread);
+    qAddPostRoutine(ApplicationEnding);
+}
+
+void TTextEngine::ApplicationEnding()
+{
+    FontsChanged();
+    if (ThreadFonts().hasLocalData())
+        ThreadFonts().setLocalData(nullptr);
 }
 
 void TTextEngine::FontsChanged()

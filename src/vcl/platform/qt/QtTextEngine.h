@@ -23,6 +23,8 @@ public:
 
     /// Forgets every font, in all threads: the system's fonts have changed.
     static void FontsChanged();
+    /// The application object is about to go: fonts must not outlive it.
+    static void ApplicationEnding();
 
 private:
     TFixedTextEngine FFixed;
