@@ -4,6 +4,8 @@
 #include <climits>
 
 #include "vcl/graphics/Colors.h"
+#include "vcl/graphics/Edge.h"
+#include "vcl/graphics/FrameControl.h"
 #include "vcl/graphics/Graphic.h"
 #include "vcl/graphics/Surface.h"
 #include "vcl/graphics/TextDisplay.h"
@@ -174,6 +176,27 @@ void TCanvas::InvertRect(const TRect& Rect)
 void TCanvas::DrawFocusRect(const TRect& Rect)
 {
     Paint([&](IPainter& Painter) { Painter.FocusRect(ToPainter(Rect)); });
+}
+
+bool TCanvas::DrawEdge(TRect& Rect, unsigned Edge, unsigned Flags)
+{
+    bool IsDrawn = false;
+    Paint([&](IPainter& Painter) {
+        TRect Target = ToPainter(Rect);
+        IsDrawn = vcl::DrawEdge(Painter, &ColorToPixel, Target, Edge, Flags);
+        if (Flags & BF_ADJUST)
+            Rect = Shifted(Target, -FOrigin.X, -FOrigin.Y);
+    });
+    return IsDrawn;
+}
+
+bool TCanvas::DrawFrameControl(const TRect& Rect, unsigned Type, unsigned State)
+{
+    bool IsDrawn = false;
+    Paint([&](IPainter& Painter) {
+        IsDrawn = vcl::DrawFrameControl(Painter, &ColorToPixel, ToPainter(Rect), Type, State);
+    });
+    return IsDrawn;
 }
 
 void TCanvas::TextOut(int X, int Y, const AnsiString& Text)

@@ -80,6 +80,11 @@ public:
     /// A dotted frame by inversion: drawn twice it is gone.
     void DrawFocusRect(const TRect& Rect);
 
+    // Edges and controls in system colours; see Edge.h and FrameControl.h
+    /// False when nothing can be drawn. With BF_ADJUST Rect becomes what remains inside.
+    bool DrawEdge(TRect& Rect, unsigned Edge, unsigned Flags);
+    bool DrawFrameControl(const TRect& Rect, unsigned Type, unsigned State);
+
     // Text
     /// One line with its top left corner at X, Y; the pen position moves to its end.
     void TextOut(int X, int Y, const AnsiString& Text);

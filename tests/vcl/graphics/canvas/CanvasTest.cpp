@@ -5,6 +5,8 @@
 
 #include "vcl/graphics/Bitmap.h"
 #include "vcl/graphics/DrawText.h"
+#include "vcl/graphics/Edge.h"
+#include "vcl/graphics/FrameControl.h"
 #include "vcl/graphics/RecordingPainter.h"
 #include "vcl/system/Exception.h"
 
@@ -259,6 +261,21 @@ TEST_F(Canvas, RecordedCopiesDifferWhenTheirPixelsDo)
     Picture.GetCanvas()->SetPixel(3, 1, clRed);
     Out.Draw(0, 0, &Picture);
     EXPECT_NE(Take(), Before);
+}
+
+TEST_F(Canvas, EdgesAndControlsUseSystemColoursAndTheOrigin)
+{
+    TBitmap Bitmap(20, 20);
+    TCanvas* const Pixels = Bitmap.GetCanvas();
+    Pixels->SetOrigin({5, 5});
+    TRect Rect{0, 0, 10, 10};
+    EXPECT_TRUE(Pixels->DrawEdge(Rect, BDR_SUNKENOUTER, BF_RECT | BF_ADJUST));
+    EXPECT_EQ(Rect, (TRect{1, 1, 9, 9}));
+    EXPECT_FALSE(Pixels->DrawEdge(Rect, BDR_SUNKENOUTER | BDR_RAISEDOUTER, BF_RECT));
+    EXPECT_EQ(Pixels->GetPixel(0, 0), TColor(0x808080));
+    EXPECT_TRUE(Pixels->DrawFrameControl({0, 0, 10, 10}, DFC_BUTTON, DFCS_BUTTONPUSH));
+    EXPECT_EQ(Pixels->GetPixel(5, 5), TColor(0xC0C0C0));
+    EXPECT_FALSE(Pixels->DrawFrameControl({0, 0, 10, 10}, 99, 0));
 }
 
 TEST_F(Canvas, ItTellsBeforeAndAfterEachDrawing)
