@@ -13,6 +13,8 @@ const std::vector<TVerb>& Verbs()
          RunConvert},
         {"check", "FILE...", "report every error in form files", RunCheck},
         {"list", "[CLASS] [--json]", "show classes with their properties and events", RunList},
+        {"draw", "SCRIPT -o PNG [--scale S]", "run a script of canvas operations and save the picture",
+         RunDraw},
     };
     return Table;
 }

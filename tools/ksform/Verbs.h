@@ -41,5 +41,6 @@ int Run(const TArguments& Arguments);
 int RunConvert(const TArguments& Arguments);
 int RunCheck(const TArguments& Arguments);
 int RunList(const TArguments& Arguments);
+int RunDraw(const TArguments& Arguments);
 
 } // namespace ksform

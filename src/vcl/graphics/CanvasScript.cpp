@@ -250,8 +250,12 @@ TCanvasScript::TSheet& TCanvasScript::AddSheet(TScriptLine& Line, std::string_vi
     FPixels += static_cast<std::int64_t>(Width * FScale + 1) * static_cast<std::int64_t>(Height * FScale + 1);
     if (FPixels > FLimits.MaxPixels)
         Line.Fail("the surfaces are too large");
-    auto Sheet = std::make_unique<TSheet>(Width, Height, FScale);
-    return *FSheets.emplace(Name, std::move(Sheet)).first->second;
+    try {
+        auto Sheet = std::make_unique<TSheet>(Width, Height, FScale);
+        return *FSheets.emplace(Name, std::move(Sheet)).first->second;
+    } catch (const EInvalidGraphicOperation& Error) {
+        Line.Fail(Error.what());
+    }
 }
 
 TCanvasScript::TSheet& TCanvasScript::FindSheet(TScriptLine& Line)

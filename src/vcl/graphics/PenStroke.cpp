@@ -1,7 +1,9 @@
 #include "vcl/graphics/PenStroke.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
+#include <vector>
 
 namespace vcl
 {
@@ -25,6 +27,7 @@ TPenStyle DashStyleOf(const TPenState& Pen)
 
 TPenStroke::TPenStroke(TRasterTarget& Target, const TDrawState& State)
     : FTarget(Target), FVisible(State.Pen.Style != TPenStyle::psClear),
+      FInsideFrame(State.Pen.Style == TPenStyle::psInsideFrame),
       FUnits(FVisible ? std::clamp(State.Pen.Width, 1, 4 * TSurface::MaxSide) : 1),
       FPixels(PixelsOf(FUnits, Target.GetSurface().GetScale())), FDashes(DashStyleOf(State.Pen))
 {
@@ -36,16 +39,25 @@ TPenStroke::TPenStroke(TRasterTarget& Target, const TDrawState& State)
 
 int TPenStroke::CentreOf(int Unit) const
 {
-    return Saturate(std::int64_t{Device(std::int64_t{Unit} - GetUnitsBefore())} + FPixels / 2);
+    return Saturate(std::int64_t{Device(std::int64_t{Unit} - FUnits / 2)} + FPixels / 2);
 }
 
 TRect TPenStroke::Visible(std::int64_t Left, std::int64_t Top, std::int64_t Right, std::int64_t Bottom) const
 {
     TRect Result{Device(Left), Device(Top), Device(Right), Device(Bottom)};
-    if (Result.Right == Result.Left)
-        Result.Right = Saturate(std::int64_t{Result.Left} + 1);
-    if (Result.Bottom == Result.Top)
-        Result.Bottom = Saturate(std::int64_t{Result.Top} + 1);
+    // A unit that falls between two edges takes the pixel under its middle.
+    const double Scale = FTarget.GetSurface().GetScale();
+    const auto PixelUnder = [Scale](std::int64_t Unit) {
+        return static_cast<int>(std::floor((static_cast<double>(Unit) + 0.5) * Scale));
+    };
+    if (Result.Right == Result.Left && Left < Right && Scale < 1) {
+        Result.Left = PixelUnder(Left);
+        Result.Right = Result.Left + 1;
+    }
+    if (Result.Bottom == Result.Top && Top < Bottom && Scale < 1) {
+        Result.Top = PixelUnder(Top);
+        Result.Bottom = Result.Top + 1;
+    }
     return Result;
 }
 
@@ -54,7 +66,11 @@ void TPenStroke::Chain(std::span<const TPoint> Points, bool Closed)
     if (!FVisible || Points.size() < 2)
         return;
     if (IsWide()) {
-        WideChain(Points, Closed);
+        std::vector<TPoint> Device;
+        Device.reserve(Points.size());
+        for (const TPoint& Point : Points)
+            Device.push_back(CentreOf(Point));
+        WideChain(Device, Closed);
         return;
     }
     for (std::size_t Index = 1; Index < Points.size(); ++Index)
@@ -63,17 +79,37 @@ void TPenStroke::Chain(std::span<const TPoint> Points, bool Closed)
         ThinLine(Points.back(), Points.front());
 }
 
-void TPenStroke::WideChain(std::span<const TPoint> Points, bool Closed)
+void TPenStroke::WideChain(std::span<const TPoint> DevicePoints, bool Closed)
 {
     TWideStroke Stroke(FTarget.GetBounds(), FPixels);
-    TPoint Last = CentreOf(Closed ? Points.back() : Points.front());
-    for (const TPoint& Point : Points) {
-        const TPoint Next = CentreOf(Point);
-        Stroke.AddLine(Last, Next);
-        Stroke.AddDot(Next);
-        Last = Next;
+    TPoint Last = Closed ? DevicePoints.back() : DevicePoints.front();
+    for (const TPoint& Point : DevicePoints) {
+        Stroke.AddLine(Last, Point);
+        Stroke.AddDot(Point);
+        Last = Point;
     }
     Stroke.Emit([this](int Y, int From, int To) { FTarget.Span(Y, From, To, FInk); });
+}
+
+TRect TPenStroke::Around(const TRect& Box) const
+{
+    const bool Grows = IsWide() && !FInsideFrame;
+    const std::int64_t Before = Grows ? FUnits / 2 : 0;
+    const std::int64_t After = Grows ? FUnits - FUnits / 2 - 1 : 0;
+    return {Device(Box.Left - Before), Device(Box.Top - Before), Device(Box.Right + After),
+            Device(Box.Bottom + After)};
+}
+
+void TPenStroke::WideFrame(const TRect& Outer)
+{
+    // A pen wider than the rectangle stands still in one direction, or both.
+    const std::int64_t Half = FPixels / 2;
+    const int Left = Saturate(Outer.Left + Half);
+    const int Top = Saturate(Outer.Top + Half);
+    const int Right = std::max(Left, Saturate(Outer.Right - (FPixels - Half)));
+    const int Bottom = std::max(Top, Saturate(Outer.Bottom - (FPixels - Half)));
+    WideChain(std::array{TPoint{Right, Top}, TPoint{Left, Top}, TPoint{Left, Bottom}, TPoint{Right, Bottom}},
+              true);
 }
 
 void TPenStroke::ThinLine(TPoint From, TPoint To)

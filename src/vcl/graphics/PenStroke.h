@@ -26,16 +26,17 @@ public:
     int GetPixels() const { return FPixels; }
     const TInk& GetInk() const { return FInk; }
 
-    /// How far the pen reaches around the pixel of a unit, in units: Before it to the left and above, and as
-    /// far as one less than After from its own left edge.
-    int GetUnitsBefore() const { return FUnits / 2; }
-    int GetUnitsAfter() const { return FUnits - FUnits / 2; }
+    /// The device pixels of a box of units whose border pixels the pen follows: with a wide pen larger than
+    /// the box, unless the pen stays inside the frame.
+    TRect Around(const TRect& Box) const;
     /// The device pixel on which the pen stands for a unit coordinate.
     int CentreOf(int Unit) const;
     TPoint CentreOf(TPoint Point) const { return {CentreOf(Point.X), CentreOf(Point.Y)}; }
 
     /// Lines from point to point, without the very last pixel when thin. Closed: back to the first as well.
     void Chain(std::span<const TPoint> Points, bool Closed);
+    /// The border inside a rectangle of device pixels, as wide as the pen, with round corners.
+    void WideFrame(const TRect& Outer);
     /// A thin solid or dashed line in units, without its end.
     void ThinLine(TPoint From, TPoint To);
     /// A rectangle of units in device pixels, at least one pixel each way.
@@ -44,11 +45,12 @@ public:
 private:
     void UnitLine(TPoint From, TPoint To, bool AlongX);
     void DeviceLine(TPoint From, TPoint To, bool AlongX);
-    void WideChain(std::span<const TPoint> Points, bool Closed);
+    void WideChain(std::span<const TPoint> DevicePoints, bool Closed);
     int Device(std::int64_t Unit) const { return FTarget.GetSurface().ToDevice(Saturate(Unit)); }
 
     TRasterTarget& FTarget;
     bool FVisible;
+    bool FInsideFrame;
     int FUnits;
     int FPixels;
     TInk FInk;

@@ -102,7 +102,7 @@ void TRasterPainter::Rectangle(const TDrawState& State, const TRect& Rect)
         return;
     }
     if (Pen.IsWide()) {
-        WideRectangle(Pen, State, Path);
+        WideRectangle(Pen, State, Box);
         return;
     }
     FTarget.FillRect(
@@ -131,22 +131,20 @@ void TRasterPainter::Frame(const TRect& Rect, const TInk& Ink)
     FTarget.FillRect({Outer.Left, Bottom, Outer.Right, Outer.Bottom}, Ink);
 }
 
-void TRasterPainter::WideRectangle(TPenStroke& Pen, const TDrawState& State, const TRect& Path)
+void TRasterPainter::WideRectangle(TPenStroke& Pen, const TDrawState& State, const TRect& Box)
 {
-    TRect Line = Path;
-    if (State.Pen.Style == TPenStyle::psInsideFrame) {
-        Line = {Path.Left + Pen.GetUnitsBefore(), Path.Top + Pen.GetUnitsBefore(),
-                Path.Right + 1 - Pen.GetUnitsAfter(), Path.Bottom + 1 - Pen.GetUnitsAfter()};
-        Line.Right = std::max(Line.Left, Line.Right);
-        Line.Bottom = std::max(Line.Top, Line.Bottom);
+    const TRect Outer = Pen.Around(Box);
+    const std::int64_t Width = Pen.GetPixels();
+    const bool IsFilledByPen = Width * 2 >= std::int64_t{Outer.Right} - Outer.Left ||
+                               Width * 2 >= std::int64_t{Outer.Bottom} - Outer.Top;
+    if (State.Pen.Style == TPenStyle::psInsideFrame && IsFilledByPen) {
+        FTarget.FillRect(Outer, Pen.GetInk());
+        return;
     }
-    const auto CornerOf = [&Pen](int Unit) {
-        return Saturate(std::int64_t{Pen.CentreOf(Unit)} - Pen.GetPixels() / 2);
-    };
-    FTarget.FillRect({CornerOf(Line.Left) + Pen.GetPixels(), CornerOf(Line.Top) + Pen.GetPixels(),
-                      CornerOf(Line.Right), CornerOf(Line.Bottom)},
+    FTarget.FillRect({Saturate(Outer.Left + Width), Saturate(Outer.Top + Width),
+                      Saturate(Outer.Right - Width), Saturate(Outer.Bottom - Width)},
                      BrushInk(State, State.Mode));
-    Pen.Chain(CornersOf(Line), true);
+    Pen.WideFrame(Outer);
 }
 
 void TRasterPainter::FillRect(const TDrawState& State, const TRect& Rect)

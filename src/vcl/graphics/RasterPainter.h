@@ -56,7 +56,7 @@ private:
     int CellSize() const;
     TInk BrushInk(const TDrawState& State, TPenMode Mode) const;
     void Frame(const TRect& Rect, const TInk& Ink);
-    void WideRectangle(TPenStroke& Pen, const TDrawState& State, const TRect& Path);
+    void WideRectangle(TPenStroke& Pen, const TDrawState& State, const TRect& Box);
     void RoundFigure(const TDrawState& State, const TRect& Rect, TSize Corner);
     void ArcFigure(TArcKind Kind, const TDrawState& State, const TRect& Box, TPoint From, TPoint To);
 

@@ -37,17 +37,15 @@ struct TRoundFrame {
 TRoundFrame FrameOf(const TSurface& Surface, const TPenStroke& Pen, const TDrawState& State, const TRect& Box,
                     TSize Corner)
 {
-    const bool Grows = Pen.IsWide() && State.Pen.Style != TPenStyle::psInsideFrame;
-    const std::int64_t Before = Grows ? Pen.GetUnitsBefore() : 0;
-    const std::int64_t After = Grows ? Pen.GetUnitsAfter() - 1 : 0;
+    const TRect Outer = Pen.Around(Box);
     const auto Device = [&Surface](std::int64_t Unit) { return Surface.ToDevice(Saturate(Unit)); };
-    const TRect Outer{Device(Box.Left - Before), Device(Box.Top - Before), Device(Box.Right + After),
-                      Device(Box.Bottom + After)};
     const int Width = Pen.GetPixels();
     const auto Shrunk = [](int Value, int By) { return Saturate(std::int64_t{Value} + By); };
     const TRect Inner{Shrunk(Outer.Left, Width), Shrunk(Outer.Top, Width), Shrunk(Outer.Right, -Width),
                       Shrunk(Outer.Bottom, -Width)};
-    const TSize OuterCorner{Device(Corner.Width + Before + After), Device(Corner.Height + Before + After)};
+    const bool Grows = Pen.IsWide() && State.Pen.Style != TPenStyle::psInsideFrame;
+    const std::int64_t Grown = Grows ? Pen.GetUnits() - 1 : 0;
+    const TSize OuterCorner{Device(Corner.Width + Grown), Device(Corner.Height + Grown)};
     const bool IsFull = Corner.Width == std::numeric_limits<int>::max();
     const TSize InnerCorner =
         IsFull ? Corner

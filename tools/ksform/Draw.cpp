@@ -1,0 +1,110 @@
+#include <png.h>
+
+#include <cmath>
+#include <cstdlib>
+
+#include "ksform/Files.h"
+#include "ksform/Verbs.h"
+#include "vcl/graphics/CanvasScript.h"
+#include "vcl/platform/System.h"
+
+namespace ksform
+{
+
+using namespace vcl;
+
+namespace
+{
+
+struct TOptions {
+    std::string Script;
+    std::string Picture;
+    double Scale = 1.0;
+};
+
+double ParseScale(const std::string& Text)
+{
+    char* End = nullptr;
+    const double Value = std::strtod(Text.c_str(), &End);
+    if (Text.empty() || *End != '\0' || !(Value >= TSurface::MinScale && Value <= TSurface::MaxScale))
+        throw EUsage(Text + " is not a scale");
+    return Value;
+}
+
+TOptions Parse(const TArguments& Arguments)
+{
+    TOptions Result;
+    for (std::size_t Index = 0; Index < Arguments.size(); ++Index) {
+        const std::string& Argument = Arguments[Index];
+        const auto TakeValue = [&] {
+            if (++Index == Arguments.size())
+                throw EUsage(Argument + " needs a value");
+            return Arguments[Index];
+        };
+        if (Argument == "-o")
+            Result.Picture = TakeValue();
+        else if (Argument == "--scale")
+            Result.Scale = ParseScale(TakeValue());
+        else if (Argument.size() > 1 && Argument.front() == '-')
+            throw EUsage("there is no option " + Argument);
+        else if (Result.Script.empty())
+            Result.Script = Argument;
+        else
+            throw EUsage("one script at a time");
+    }
+    if (Result.Script.empty() || Result.Picture.empty())
+        throw EUsage("a script and -o PNG are needed");
+    return Result;
+}
+
+/// Edges and frame controls come out alike on every machine.
+std::uint32_t ClassicPixel(TColor Color)
+{
+    std::uint32_t Value = static_cast<std::uint32_t>(Color);
+    if (IsSystemColor(Color) && SystemColorIndex(Color) < SystemColorCount)
+        Value = static_cast<std::uint32_t>(
+            ClassicSystemColors()[static_cast<std::size_t>(SystemColorIndex(Color))]);
+    return (Value & 0xFF) << 16 | (Value & 0xFF00) | (Value >> 16 & 0xFF);
+}
+
+void EncodePng(const TSurface& Surface, TMemoryStream& Output)
+{
+    std::vector<png_byte> Bytes;
+    for (int Y = 0; Y < Surface.GetDeviceHeight(); ++Y)
+        for (int X = 0; X < Surface.GetDeviceWidth(); ++X)
+            for (const int Shift : {16, 8, 0})
+                Bytes.push_back(static_cast<png_byte>(Surface.Row(Y)[X] >> Shift & 0xFF));
+    png_image Image{};
+    Image.version = PNG_IMAGE_VERSION;
+    Image.width = static_cast<png_uint_32>(Surface.GetDeviceWidth());
+    Image.height = static_cast<png_uint_32>(Surface.GetDeviceHeight());
+    Image.format = PNG_FORMAT_RGB;
+    png_alloc_size_t Size = 0;
+    if (png_image_write_get_memory_size(Image, Size, 0, Bytes.data(), 0, nullptr) == 0)
+        throw EInvalidGraphicOperation(Image.message);
+    std::vector<png_byte> Encoded(Size);
+    if (png_image_write_to_memory(&Image, Encoded.data(), &Size, 0, Bytes.data(), 0, nullptr) == 0)
+        throw EInvalidGraphicOperation(Image.message);
+    Output.WriteBuffer(Encoded.data(), static_cast<std::int64_t>(Size));
+}
+
+} // namespace
+
+int RunDraw(const TArguments& Arguments)
+{
+    const TOptions Options = Parse(Arguments);
+    TMemoryStream Text;
+    ReadWhole(Options.Script, Text);
+    TCanvasScript Script(ClassicPixel, Options.Scale);
+    try {
+        Script.Run({reinterpret_cast<const char*>(Text.GetMemory()), Text.GetBytes().size()});
+    } catch (const EScriptError& Error) {
+        throw EReadError(Options.Script + ": " + Error.what());
+    }
+    TMemoryStream Picture;
+    EncodePng(Script.GetMain(), Picture);
+    WriteWhole(Options.Picture, Picture);
+    return Success;
+}
+
+} // namespace ksform
