@@ -44,6 +44,7 @@ void TTimeViewDays::SetDay(int Index, TKSTimeviewDay* Day)
 /// A day that stands in the list twice (while two are being exchanged) has its first position.
 void TTimeViewDays::Renumber()
 {
+    ++FRevision;
     for (int Index = GetCount() - 1; Index >= 0; --Index)
         FDays[static_cast<std::size_t>(Index)]->FIndex = Index;
 }
@@ -63,6 +64,7 @@ void TTimeViewDays::FreeDays()
     for (TKSTimeviewDay* Day : FDays)
         delete Day;
     FDays.clear();
+    ++FRevision;
 }
 
 void TTimeViewDays::SetDateRange(vcl::TDateTime Date, int Count)
@@ -238,18 +240,14 @@ int TTimeViewDays::GetTopSpace()
     return FTopSpace;
 }
 
-TTimeScale TTimeViewDays::Scale()
+TViewFrame TTimeViewDays::Frame()
 {
-    return Scale(FHost.Geometry());
-}
-
-TTimeScale TTimeViewDays::Scale(const TViewGeometry& Geometry)
-{
-    TTimeScale Result;
-    Result.TotalHeight = Geometry.TotalScaleHeight;
-    Result.CaptionHeight = Geometry.CaptionHeight;
-    Result.TopSpace = Geometry.ShowTopSpace ? GetTopSpace() : 0;
-    Result.ScrollOffset = Geometry.ScrollOffset;
+    TViewFrame Result;
+    Result.Geometry = FHost.Geometry();
+    Result.Scale.TotalHeight = Result.Geometry.TotalScaleHeight;
+    Result.Scale.CaptionHeight = Result.Geometry.CaptionHeight;
+    Result.Scale.TopSpace = Result.Geometry.ShowTopSpace ? GetTopSpace() : 0;
+    Result.Scale.ScrollOffset = Result.Geometry.ScrollOffset;
     return Result;
 }
 

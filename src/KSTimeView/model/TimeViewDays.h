@@ -10,6 +10,12 @@
 namespace timeview
 {
 
+/// The view's measures and its vertical scale.
+struct TViewFrame {
+    TViewGeometry Geometry;
+    TTimeScale Scale;
+};
+
 /// The days of a time view in the order they stand side by side, and the layout of the view.
 ///
 /// The layout is computed when a result is next read (EnsureLayout is the one door), not when CalcDisplay
@@ -39,6 +45,9 @@ public:
     const std::vector<TKSTimeviewDay*>& GetList() const { return FDays; }
     std::vector<TKSTimeviewDay*>::const_iterator begin() const { return FDays.begin(); }
     std::vector<TKSTimeviewDay*>::const_iterator end() const { return FDays.end(); }
+
+    /// Counts changes of the list: who goes through the days while events are raised stops when it changes.
+    std::uint32_t GetRevision() const { return FRevision; }
 
     /// First date of the range last set; adding an earlier day does not change it.
     vcl::TDateTime GetDate() const { return FDate; }
@@ -74,9 +83,8 @@ public:
     std::uint32_t GetLayoutSerial() const { return FLayoutSerial; }
     /// Height of the all-day area, whether shown or not; 0 before the first layout.
     int GetTopSpace();
-    /// The scale as it is shown now.
-    TTimeScale Scale();
-    TTimeScale Scale(const TViewGeometry& Geometry);
+    /// What all rectangles are computed from, as it is now.
+    TViewFrame Frame();
     /// Lays out at every CalcDisplay instead of when a result is read. The results are the same; for
     /// comparing.
     void SetEager(bool Value) { FIsEager = Value; }
@@ -113,6 +121,7 @@ private:
     vcl::TDateTime FDate = 0;
     std::uint64_t FFreeMarks = ~std::uint64_t{0};
     std::uint32_t FAllocations = 0; // counts wholesale replacements of the days
+    std::uint32_t FRevision = 0;
     std::uint32_t FLayoutSerial = 0;
     int FTopSpace = 0;
     TLayoutInput FInput;

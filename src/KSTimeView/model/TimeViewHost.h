@@ -20,6 +20,7 @@ namespace timeview
 {
 
 class TTimeViewDays;
+struct TViewFrame;
 
 /// The properties and state of the view that geometry depends on; pixels.
 struct TViewGeometry {

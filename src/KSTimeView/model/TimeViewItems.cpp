@@ -21,11 +21,16 @@ TKSTimeViewItems::TKSTimeViewItems(timeview::IViewHost* Host) : FHost(Host)
 {
 }
 
-TKSTimeViewItems::~TKSTimeViewItems()
+void TKSTimeViewItems::FreeItems()
 {
-    FUpdateCount = 1;
+    ++FUpdateCount;
     while (TKSTimeViewItem* const Item = FirstStaying())
         delete Item;
+}
+
+TKSTimeViewItems::~TKSTimeViewItems()
+{
+    FreeItems();
     // What is left is being freed further up the stack, by whoever raised the event that freed us.
     while (!FList.IsEmpty()) {
         TKSTimeViewItem* const Item = FList[FList.GetCount() - 1];

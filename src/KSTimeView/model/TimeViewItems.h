@@ -38,6 +38,9 @@ public:
                                vcl::TDateTime EndTime, bool AllDay, void* Data);
     void Delete(TKSTimeViewItem* Item);
     void Clear();
+    /// As Clear, for a view on its way out: nothing is laid out any more, and what handlers throw is reported
+    /// and stops nothing.
+    void FreeItems();
 
     /// Nested; between them nothing is laid out or repainted.
     void BeginUpdate();

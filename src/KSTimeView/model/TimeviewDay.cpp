@@ -12,8 +12,8 @@
 #include "vcl/system/Rects.h"
 
 using timeview::IViewHost;
-using timeview::TTimeScale;
 using timeview::TTimeViewDays;
+using timeview::TViewFrame;
 using timeview::TViewGeometry;
 
 namespace
@@ -42,7 +42,7 @@ TKSTimeviewDay::~TKSTimeviewDay()
         FOwner->DayFreed(this, FMark);
 }
 
-IViewHost* TKSTimeviewDay::Host() const
+IViewHost* TKSTimeviewDay::GetHost() const
 {
     return FOwner ? &FOwner->Host() : nullptr;
 }
@@ -275,29 +275,29 @@ vcl::TRect TKSTimeviewDay::GetClientRect() const
 
 vcl::TRect TKSTimeviewDay::GetItemRect(const TKSTimeViewItem* Item) const
 {
+    return FOwner ? GetItemRect(Item, FOwner->Frame()) : vcl::TRect();
+}
+
+vcl::TRect TKSTimeviewDay::GetItemRect(const TKSTimeViewItem* Item, const TViewFrame& Frame) const
+{
     if (!Host() || !Host()->HasWindow())
         return {};
     FOwner->EnsureLayout();
-    if (Item->FAllDay)
-        return AllDayRect(*Item);
-    const TViewGeometry Geometry = Host()->Geometry();
-    return TimedRect(*Item, Geometry, FOwner->Scale(Geometry));
+    return Item->FAllDay ? AllDayRect(*Item, Frame.Geometry) : TimedRect(*Item, Frame);
 }
 
-vcl::TRect TKSTimeviewDay::AllDayRect(const TKSTimeViewItem& Item) const
+vcl::TRect TKSTimeviewDay::AllDayRect(const TKSTimeViewItem& Item, const TViewGeometry& Geometry) const
 {
     // An item that was written to directly may have lost all its days; it then lies in this one.
     const TKSTimeviewDay* First = Item.GetFirstAppearingDay();
     const TKSTimeviewDay* Last = Item.GetLastAppearingDay();
     First = First ? First : this;
     Last = Last ? Last : this;
-    const TViewGeometry Geometry = Host()->Geometry();
     return timeview::AllDayItemRect(First->FExtent, Last->FExtent, Geometry.CaptionHeight,
                                     Geometry.RulerMarkHeight, Item.GetAllDayRow());
 }
 
-vcl::TRect TKSTimeviewDay::TimedRect(const TKSTimeViewItem& Item, const TViewGeometry& Geometry,
-                                     const TTimeScale& Scale) const
+vcl::TRect TKSTimeviewDay::TimedRect(const TKSTimeViewItem& Item, const TViewFrame& Frame) const
 {
     const vcl::TTime Start = Item.FStartTime < FDate ? 0.0 : timeview::TimeOfDay(Item.FStartTime);
     const vcl::TTime End = Item.FEndTime >= FDate + 1 ? 1.0 : timeview::TimeOfDay(Item.FEndTime);
@@ -305,18 +305,21 @@ vcl::TRect TKSTimeviewDay::TimedRect(const TKSTimeViewItem& Item, const TViewGeo
     Place.Day = FExtent;
     Place.Column = StoredColumn(&Item);
     Place.ColumnCount = FColumnCount;
-    Place.GapWidth = Geometry.DaysGapWidth;
-    Place.GapCover = Geometry.ShowDaysGapCover;
+    Place.GapWidth = Frame.Geometry.DaysGapWidth;
+    Place.GapCover = Frame.Geometry.ShowDaysGapCover;
     Place.OverWholeDay = Item.FDragOutside;
     const timeview::TItemExtent Extent = timeview::TimedItemExtent(Place);
-    return {Extent.Left, Scale.TimeToPos(Start, 1), Extent.Right, Scale.TimeToPos(End, 1)};
+    return {Extent.Left, Frame.Scale.TimeToPos(Start, 1), Extent.Right, Frame.Scale.TimeToPos(End, 1)};
 }
 
 vcl::TRect TKSTimeviewDay::GetItemsRect() const
 {
     vcl::TRect Union;
+    if (!FOwner)
+        return Union;
+    const TViewFrame Frame = FOwner->Frame();
     for (const TKSTimeViewItem* Item : FList)
-        vcl::UnionRect(Union, Union, GetItemRect(Item));
+        vcl::UnionRect(Union, Union, GetItemRect(Item, Frame));
     return Union;
 }
 
@@ -324,11 +327,12 @@ TKSTimeViewItem* TKSTimeviewDay::GetItemAt(int X, int Y) const
 {
     if (!Host())
         return nullptr;
-    const bool InAllDayArea = Y <= FOwner->Scale().Top();
+    const TViewFrame Frame = FOwner->Frame();
+    const bool InAllDayArea = Y <= Frame.Scale.Top();
     for (TKSTimeViewItem* Item : FList) {
         if (Item->FAllDay != InAllDayArea)
             continue;
-        vcl::TRect Rect = GetItemRect(Item);
+        vcl::TRect Rect = GetItemRect(Item, Frame);
         vcl::InflateRect(Rect, 0, HitMargin);
         if (Rect.Contains({X, Y}))
             return Item;

@@ -4,7 +4,6 @@
 #include <unordered_set>
 
 #include "KSTimeView/layout/DayColumns.h"
-#include "KSTimeView/layout/TimeScale.h"
 #include "KSTimeView/model/ItemSequence.h"
 #include "KSTimeView/model/TimeViewHost.h"
 #include "vcl/system/Object.h"
@@ -25,6 +24,7 @@ public:
     vcl::TDateTime GetDate() const { return FDate; }
     /// Null without a view.
     TKSTimeView* GetTimeView() const;
+    timeview::IViewHost* GetHost() const;
     /// Position in the view's list, -1 when it is not in it.
     int GetIndex() const { return FIndex; }
 
@@ -64,6 +64,8 @@ public:
     int FindFreeIndexForItem(const TKSTimeViewItem* Item) const;
     /// Empty while the view has no window.
     vcl::TRect GetItemRect(const TKSTimeViewItem* Item) const;
+    /// The same from a frame taken before, for those who ask for many.
+    vcl::TRect GetItemRect(const TKSTimeViewItem* Item, const timeview::TViewFrame& Frame) const;
     /// The union of all items' rectangles.
     vcl::TRect GetItemsRect() const;
     /// The first item whose rectangle, 4 pixels higher above and below, holds the point: an all-day item
@@ -80,7 +82,7 @@ private:
     friend class TKSTimeViewItem;
     friend class timeview::TTimeViewDays;
 
-    timeview::IViewHost* Host() const;
+    timeview::IViewHost* Host() const { return GetHost(); }
     bool KeepsColumns() const;
     void Attach(TKSTimeViewItem* Item);
     void Detach(TKSTimeViewItem* Item);
@@ -91,9 +93,8 @@ private:
     void ArrangeTimedItems();
     int StoredColumn(const TKSTimeViewItem* Item) const;
     void StoreColumn(TKSTimeViewItem* Item, int Column);
-    vcl::TRect AllDayRect(const TKSTimeViewItem& Item) const;
-    vcl::TRect TimedRect(const TKSTimeViewItem& Item, const timeview::TViewGeometry& Geometry,
-                         const timeview::TTimeScale& Scale) const;
+    vcl::TRect AllDayRect(const TKSTimeViewItem& Item, const timeview::TViewGeometry& Geometry) const;
+    vcl::TRect TimedRect(const TKSTimeViewItem& Item, const timeview::TViewFrame& Frame) const;
 
     timeview::TItemSequence FList;
     timeview::TTimeViewDays* FOwner;
