@@ -74,9 +74,9 @@ void TPenStroke::Chain(std::span<const TPoint> Points, bool Closed)
         return;
     }
     for (std::size_t Index = 1; Index < Points.size(); ++Index)
-        ThinLine(Points[Index - 1], Points[Index]);
+        ThinLine(Points[Index - 1], Points[Index], Closed || Index + 1 < Points.size());
     if (Closed)
-        ThinLine(Points.back(), Points.front());
+        ThinLine(Points.back(), Points.front(), true);
 }
 
 void TPenStroke::WideChain(std::span<const TPoint> DevicePoints, bool Closed)
@@ -112,7 +112,7 @@ void TPenStroke::WideFrame(const TRect& Outer)
               true);
 }
 
-void TPenStroke::ThinLine(TPoint From, TPoint To)
+void TPenStroke::ThinLine(TPoint From, TPoint To, bool IsJoined)
 {
     const std::int64_t Width = std::abs(std::int64_t{To.X} - From.X);
     const std::int64_t Height = std::abs(std::int64_t{To.Y} - From.Y);
@@ -123,7 +123,7 @@ void TPenStroke::ThinLine(TPoint From, TPoint To)
     // Dashes are counted in units, and straight lines cover the edges of their units' pixels; a sloped line
     // looks best when the device's own pixels make its steps.
     if (Sloped && !IsDashed() && FTarget.GetSurface().GetScale() != 1.0)
-        DeviceLine(From, To, AlongX);
+        DeviceLine(From, To, AlongX, IsJoined);
     else
         UnitLine(From, To, AlongX);
     FDashes.Advance(std::max(Width, Height));
@@ -148,7 +148,7 @@ void TPenStroke::UnitLine(TPoint From, TPoint To, bool AlongX)
     });
 }
 
-void TPenStroke::DeviceLine(TPoint From, TPoint To, bool AlongX)
+void TPenStroke::DeviceLine(TPoint From, TPoint To, bool AlongX, bool IsJoined)
 {
     const TRect& Bounds = FTarget.GetBounds();
     const TPoint Start = CentreOf(From);
@@ -157,22 +157,33 @@ void TPenStroke::DeviceLine(TPoint From, TPoint To, bool AlongX)
         AlongX ? TThinLine{Start.X, Start.Y, Stop.X, Stop.Y} : TThinLine{Start.Y, Start.X, Stop.Y, Stop.X};
     if (Line.Major0 == Line.Major1)
         return;
+    // From the edge of the first unit to the edge of the last, which stays out; where another line follows,
+    // to the last one's centre, so that no notch stays in the corner.
     const std::int64_t First = AlongX ? From.X : From.Y;
     const std::int64_t Last = AlongX ? To.X : To.Y;
-    Line.From = Device(First < Last ? First : Last + 1);
-    Line.To = Device(First < Last ? Last : First + 1);
+    const bool Forward = Line.Major0 < Line.Major1;
+    const std::int64_t Begin = Forward ? Device(First) : IsJoined ? Line.Major1 + 1 : Device(Last + 1);
+    const std::int64_t End = !Forward ? Device(First + 1) : IsJoined ? Line.Major1 : Device(Last);
     const std::int64_t Above = FPixels / 2;
-    if (AlongX)
-        Line.Clip(Bounds.Left, Bounds.Right, Bounds.Top, Bounds.Bottom, FPixels);
-    else
-        Line.Clip(Bounds.Top, Bounds.Bottom, Bounds.Left, Bounds.Right, FPixels);
-    Line.Walk([&](std::int64_t A, std::int64_t B, std::int64_t Minor) {
+    const auto Emit = [&](std::int64_t A, std::int64_t B, std::int64_t Minor) {
         const int Low = Saturate(Minor - Above);
         const int High = Saturate(Minor - Above + FPixels);
         const TRect Piece =
             AlongX ? TRect{Saturate(A), Low, Saturate(B), High} : TRect{Low, Saturate(A), High, Saturate(B)};
         FTarget.FillRect(Piece, FInk);
-    });
+    };
+    // Beyond the two centres the line runs straight on.
+    const std::int64_t Low = Forward ? Line.Major0 : Line.Major1;
+    const std::int64_t High = Forward ? Line.Major1 : Line.Major0;
+    Emit(Begin, std::min(End, Low), Forward ? Line.Minor0 : Line.Minor1);
+    Emit(std::max(Begin, High + 1), End, Forward ? Line.Minor1 : Line.Minor0);
+    Line.From = std::max(Begin, Low);
+    Line.To = std::min(End, High + 1);
+    if (AlongX)
+        Line.Clip(Bounds.Left, Bounds.Right, Bounds.Top, Bounds.Bottom, FPixels);
+    else
+        Line.Clip(Bounds.Top, Bounds.Bottom, Bounds.Left, Bounds.Right, FPixels);
+    Line.Walk(Emit);
 }
 
 } // namespace vcl

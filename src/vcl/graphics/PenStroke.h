@@ -37,14 +37,15 @@ public:
     void Chain(std::span<const TPoint> Points, bool Closed);
     /// The border inside a rectangle of device pixels, as wide as the pen, with round corners.
     void WideFrame(const TRect& Outer);
-    /// A thin solid or dashed line in units, without its end.
-    void ThinLine(TPoint From, TPoint To);
+    /// A thin solid or dashed line in units, without its end. Joined: another line of the figure starts
+    /// there.
+    void ThinLine(TPoint From, TPoint To, bool IsJoined);
     /// A rectangle of units in device pixels, at least one pixel each way.
     TRect Visible(std::int64_t Left, std::int64_t Top, std::int64_t Right, std::int64_t Bottom) const;
 
 private:
     void UnitLine(TPoint From, TPoint To, bool AlongX);
-    void DeviceLine(TPoint From, TPoint To, bool AlongX);
+    void DeviceLine(TPoint From, TPoint To, bool AlongX, bool IsJoined);
     void WideChain(std::span<const TPoint> DevicePoints, bool Closed);
     int Device(std::int64_t Unit) const { return FTarget.GetSurface().ToDevice(Saturate(Unit)); }
 

@@ -76,16 +76,20 @@ void TRasterPainter::Polygon(const TDrawState& State, std::span<const TPoint> Po
 {
     if (Points.size() < 2 || IsOutside(BoundsOf(Points), State.Pen.Width))
         return;
+    TPenStroke Pen(FTarget, State);
     const TInk Ink = BrushInk(State, State.Mode);
     if (!Ink.PaintsNothing()) {
+        // Below a pen the inside reaches to the middle of the outline, so that no gap can open between them.
         std::vector<TPoint> Device;
         Device.reserve(Points.size());
         for (const TPoint& Point : Points)
-            Device.push_back({GetSurface().ToDevice(Point.X), GetSurface().ToDevice(Point.Y)});
+            Device.push_back(Pen.IsVisible()
+                                 ? Pen.CentreOf(Point)
+                                 : TPoint{GetSurface().ToDevice(Point.X), GetSurface().ToDevice(Point.Y)});
         ScanPolygon(Device, State.FillMode, FTarget.GetBounds(),
                     [&](int Y, int From, int To) { FTarget.Span(Y, From, To, Ink); });
     }
-    TPenStroke(FTarget, State).Chain(Points, true);
+    Pen.Chain(Points, true);
 }
 
 void TRasterPainter::Rectangle(const TDrawState& State, const TRect& Rect)

@@ -110,7 +110,7 @@ TRegion Holes()
 TEST(RasterPainter, ClippingLeavesEveryVisiblePixelAsItWouldBeWithout)
 {
     const TRegion Region = Holes();
-    for (unsigned Seed = 0; Seed < 3000; ++Seed) {
+    for (unsigned Seed = 0; Seed < 1500; ++Seed) {
         const TRandomFigure Figure(Seed);
         const double Scale = std::array{1.0, 1.25, 2.0}[Seed % 3];
         const TSurface Whole = Painted(Scale, [&](TRasterPainter& Painter) { Figure.Paint(Painter); });
@@ -216,10 +216,10 @@ TEST(RasterPainter, TakesCoordinatesFromTheWholeRangeOfInt)
     std::mt19937 Random(5);
     const auto Pick = [&] { return Values[Random() % Values.size()]; };
     for (const double Scale : {1.0, 1.5, 0.5, 16.0}) {
-        TSurface Surface(40, 40, Scale);
+        TSurface Surface(20, 20, Scale);
         TRasterPainter Painter(Surface);
         const TRegion Region = Holes();
-        for (int Round = 0; Round < 400; ++Round) {
+        for (int Round = 0; Round < 150; ++Round) {
             TDrawState State = Inked(static_cast<std::uint32_t>(Random() & White), 0x123456);
             State.Pen.Style = static_cast<TPenStyle>(Random() % 7);
             State.Pen.Width = Round % 3 == 0 ? Values[Random() % Values.size()] : 1;

@@ -96,6 +96,22 @@ TEST(RasterScale, SlopedLinesHaveTheRoundedWidthAndNoHoles)
     }
 }
 
+TEST(RasterScale, NoGapOpensBetweenAPolygonAndItsOutline)
+{
+    constexpr std::array<TPoint, 4> Diamond{{{20, 4}, {36, 20}, {20, 36}, {4, 20}}};
+    for (const double Scale : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+        TSurface Surface(41, 41, Scale);
+        TRasterPainter Painter(Surface);
+        Painter.Polygon(Black(), Diamond);
+        for (int Y = 0; Y < Surface.GetDeviceHeight(); ++Y) {
+            int Runs = 0;
+            for (int X = 1; X < Surface.GetDeviceWidth(); ++X)
+                Runs += (Surface.Row(Y)[X] & White) == 0 && (Surface.Row(Y)[X - 1] & White) != 0 ? 1 : 0;
+            EXPECT_LE(Runs, 1) << Scale << " row " << Y;
+        }
+    }
+}
+
 TEST(RasterScale, DashesKeepTheirLengthInUnits)
 {
     TDrawState State = Black();
