@@ -197,9 +197,18 @@ void TClientArea::paintEvent(QPaintEvent* Event)
 
 bool TClientArea::focusNextPrevChild(bool Forward)
 {
-    // A foreign widget inside has come to the end of its own order: the control decides, as for a Tab key.
     if (!FWindow)
         return false;
+    // Inside a foreign widget Tab walks as that widget wants; at its end the control decides, as for a key.
+    QWidget* Next = QApplication::focusWidget();
+    while (Next && isAncestorOf(Next)) {
+        Next = Forward ? Next->nextInFocusChain() : Next->previousInFocusChain();
+        const bool TakesTab = (Next->focusPolicy() & Qt::TabFocus) == Qt::TabFocus;
+        if (isAncestorOf(Next) && TakesTab && !Next->focusProxy() && Next->isEnabled() && Next->isVisible()) {
+            Next->setFocus(Forward ? Qt::TabFocusReason : Qt::BacktabFocusReason);
+            return true;
+        }
+    }
     TMessage Message{WM_KEYDOWN, VK_TAB, 0, 0};
     const TInputScope Scope(Forward ? 0 : MK_SHIFT);
     FWindow->Send(Message);

@@ -1,6 +1,7 @@
 #include "vcl/platform/qt/QtPlatform.h"
 
 #include <QApplication>
+#include <QPalette>
 
 #include <utility>
 
@@ -76,6 +77,29 @@ IPlatform& UseQt(int ArgumentCount, char** Arguments)
     Instance().QtWindows().Attach();
     SetPlatform(&Instance());
     return Instance();
+}
+
+void UseDarkLook()
+{
+    const QColor Window(0x2D, 0x2F, 0x33);
+    const QColor Text(0xE8, 0xE8, 0xE8);
+    const QColor Faded(0x8C, 0x8E, 0x92);
+    QPalette Palette(QColor(0x3A, 0x3D, 0x42), Window);
+    for (const QPalette::ColorRole Role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText}) {
+        Palette.setColor(QPalette::All, Role, Text);
+        Palette.setColor(QPalette::Disabled, Role, Faded);
+    }
+    Palette.setColor(QPalette::All, QPalette::Base, QColor(0x1F, 0x21, 0x24));
+    Palette.setColor(QPalette::All, QPalette::AlternateBase, QColor(0x26, 0x28, 0x2C));
+    Palette.setColor(QPalette::All, QPalette::ToolTipBase, QColor(0x3F, 0x42, 0x48));
+    Palette.setColor(QPalette::All, QPalette::ToolTipText, Text);
+    Palette.setColor(QPalette::All, QPalette::PlaceholderText, Faded);
+    Palette.setColor(QPalette::All, QPalette::Highlight, QColor(0x2F, 0x6F, 0xB5));
+    Palette.setColor(QPalette::All, QPalette::HighlightedText, Qt::white);
+    Palette.setColor(QPalette::All, QPalette::Link, QColor(0x6F, 0xB1, 0xF2));
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    QApplication::setPalette(Palette);
+    Instance().QtWindows().PaletteChanged();
 }
 
 void UseClassicLook(bool Classic)

@@ -13,6 +13,9 @@ namespace vcl::qt
 /// of the user's locale with the first call.
 IPlatform& UseQt(int ArgumentCount = 0, char** Arguments = nullptr);
 
+/// A dark palette for the whole application, whatever the desktop has; for pictures and a program's option.
+void UseDarkLook();
+
 /// Colours, metrics and the default font come from the fixed classic tables, or live from the application
 /// again. For tests and for pictures that must not depend on the machine.
 void UseClassicLook(bool Classic);

@@ -97,6 +97,8 @@ void TWindowSystem::Attach()
                          CheckLoops();
                          if (FListener && !FLoops.empty() && !FListener->Idle())
                              QAbstractEventDispatcher::instance()->wakeUp();
+                         // What was done in the idle time may have been what the loop waits for.
+                         CheckLoops();
                      });
     qAddPostRoutine([] { WindowSystem().Detach(); });
     const std::lock_guard Lock(FContextMutex);
