@@ -7,6 +7,7 @@
 #include "planner/Dialogs.h"
 #include "planner/EventText.h"
 #include "planner/ItemIcons.h"
+#include "planner/calendar/CalendarError.h"
 #include "vcl/forms/Application.h"
 #include "vcl/system/DateTime.h"
 
@@ -115,7 +116,7 @@ void TPlannerForm::Start(const TState& State, const TOptions& Options)
     const vcl::TDate Day = Options.Date ? *Options.Date : FCalendars->NearestDay(vcl::Date());
     const int Days = Options.Days.value_or(State.Days);
     ApplyMarks();
-    Show(Options.Date && Options.Days ? TSpan{Day, Days} : TSpan::Around(Day, Days));
+    Show(Options.Date && Options.Days ? TDaySpan{Day, Days} : TDaySpan::Around(Day, Days));
     // The beginning of work stands a little below the top, so that what comes before it is noticed.
     const int Minutes = State.ScrollMinutes >= 0
                             ? State.ScrollMinutes
@@ -165,7 +166,7 @@ void TPlannerForm::ReportError(const std::exception& Error)
     vcl::Application().ShowException(Error);
 }
 
-void TPlannerForm::Show(const TSpan& Span)
+void TPlannerForm::Show(const TDaySpan& Span)
 {
     FSpan = Span;
     FTimeView->SetDateRange(Span.First, Span.Days);
@@ -287,7 +288,7 @@ void TPlannerForm::ChooseFiles(bool Keep)
     for (int Index = 0; Index < FOpenDialog->GetFiles().GetCount(); ++Index)
         Files.push_back(FOpenDialog->GetFiles().GetString(Index));
     if (OpenFiles(Files))
-        Show(TSpan::Around(FCalendars->NearestDay(FSpan.First), FSpan.Days));
+        Show(TDaySpan::Around(FCalendars->NearestDay(FSpan.First), FSpan.Days));
 }
 
 void TPlannerForm::ReloadClick(vcl::TObject*)
@@ -303,7 +304,7 @@ void TPlannerForm::ExitClick(vcl::TObject*)
 
 void TPlannerForm::TodayClick(vcl::TObject*)
 {
-    Show(TSpan::Around(vcl::Date(), FSpan.Days));
+    Show(TDaySpan::Around(vcl::Date(), FSpan.Days));
 }
 
 void TPlannerForm::PreviousClick(vcl::TObject*)
@@ -319,7 +320,7 @@ void TPlannerForm::NextClick(vcl::TObject*)
 void TPlannerForm::GoToDateClick(vcl::TObject*)
 {
     if (const std::optional<vcl::TDate> Date = AskForDate(*this, FSpan.First))
-        Show(TSpan::Around(*Date, FSpan.Days));
+        Show(TDaySpan::Around(*Date, FSpan.Days));
 }
 
 void TPlannerForm::DaysClick(vcl::TObject* Sender)
@@ -327,7 +328,7 @@ void TPlannerForm::DaysClick(vcl::TObject* Sender)
     const int Days = static_cast<int>(vcl::As<vcl::TComponent>(Sender)->GetTag());
     // A shorter span keeps to today when that is shown.
     const vcl::TDate Day = FSpan.Contains(vcl::Date()) ? vcl::Date() : FSpan.First;
-    Show(TSpan::Around(Day, Days));
+    Show(TDaySpan::Around(Day, Days));
 }
 
 void TPlannerForm::ZoomInClick(vcl::TObject*)

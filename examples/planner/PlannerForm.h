@@ -33,8 +33,8 @@ public:
     /// Shows these calendars in place of what was shown. When one cannot be read the user is told, what was
     /// shown stays, and false comes back.
     bool OpenFiles(const std::vector<std::string>& Files);
-    void Show(const TSpan& Span);
-    const TSpan& GetSpan() const { return FSpan; }
+    void Show(const TDaySpan& Span);
+    const TDaySpan& GetSpan() const { return FSpan; }
     TKSTimeView* GetTimeView() const { return FTimeView; }
 
     // Handlers that the form file names
@@ -79,7 +79,7 @@ private:
     std::unique_ptr<TCalendarSet> FCalendars;
     std::vector<TCalendarEvent> FEvents;
     std::unique_ptr<vcl::TImageList> FImages;
-    TSpan FSpan;
+    TDaySpan FSpan;
     int FMarks = 0; // index into the ruler's choices
     bool FShowWork = true;
     vcl::TTime FBeginWork = 8.0 / 24;

@@ -29,7 +29,7 @@ vcl::TDate FirstOfMonth(vcl::TDate Date)
 
 } // namespace
 
-TSpan TSpan::Around(vcl::TDate Date, int Days)
+TDaySpan TDaySpan::Around(vcl::TDate Date, int Days)
 {
     if (BeginsOnMonday(Days))
         return {MondayOf(Date), Days};
@@ -38,7 +38,7 @@ TSpan TSpan::Around(vcl::TDate Date, int Days)
     return {Date, Days};
 }
 
-TSpan TSpan::Moved(int Direction) const
+TDaySpan TDaySpan::Moved(int Direction) const
 {
     if (Days == Month)
         return {vcl::IncMonth(First, Direction), Days};

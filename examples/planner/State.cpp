@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include <QRect>
 #include <QSettings>
 #include <QStringList>
 

@@ -45,7 +45,7 @@ TListImage CutPicture(const TSurface& Source, const TRect& Cell)
     TListImage Image{TSurface(Cell.Width(), Cell.Height()), {}};
     for (int Y = 0; Y < Cell.Height(); ++Y) {
         const std::uint32_t* const Row = Source.Row(Cell.Top + Y) + Cell.Left;
-        std::copy(Row, Row + Cell.Width(), Image.Pixels.Row(Y));
+        std::copy_n(Row, std::max(Cell.Width(), 0), Image.Pixels.Row(Y));
     }
     Image.Mask.resize(static_cast<std::size_t>(Cell.Width()) * static_cast<std::size_t>(Cell.Height()));
     return Image;

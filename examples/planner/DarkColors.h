@@ -1,0 +1,9 @@
+#pragma once
+
+namespace planner
+{
+
+/// Gives the application a dark palette, as a desktop with a dark theme would.
+void UseDarkColors();
+
+} // namespace planner

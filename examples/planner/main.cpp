@@ -1,0 +1,73 @@
+#include <cstdio>
+#include <exception>
+#include <memory>
+#include <stdexcept>
+
+#include "planner/DarkColors.h"
+#include "planner/FormTexts.h"
+#include "planner/Options.h"
+#include "planner/PlannerForm.h"
+#include "planner/State.h"
+#include "vcl/forms/Application.h"
+#include "vcl/forms/StandardClasses.h"
+#include "vcl/platform/qt/QtPlatform.h"
+#include "vcl/qt/Snapshot.h"
+
+namespace
+{
+
+std::unique_ptr<planner::TPlannerForm> MakeForm()
+{
+    vcl::RegisterStandardClasses();
+    vcl::RegisterClass(TKSTimeView::StaticClass());
+    std::unique_ptr<planner::TPlannerForm> Form(vcl::New<planner::TPlannerForm>(nullptr));
+    planner::ReadForm(*Form, "planner");
+    return Form;
+}
+
+void TakePicture(const planner::TOptions& Options)
+{
+    // A picture shows what the command line says, whatever the last session left. A file that cannot be read
+    // ends the program with its message instead of a dialog that nobody would see.
+    vcl::Application().OnException = [](vcl::TObject*, const std::exception& Error) {
+        throw std::runtime_error(Error.what());
+    };
+    const auto Form = MakeForm();
+    planner::TCalendarSet().Load(Options.Files);
+    Form->Start({}, Options);
+    vcl::SaveSnapshot(*Form, Options.Screenshot, Options.Scale);
+}
+
+void Run(const planner::TOptions& Options)
+{
+    const auto Form = MakeForm();
+    Form->OnRemember = planner::SaveState;
+    vcl::Application().SetTitle("Planner");
+    vcl::Application().SetMainForm(Form.get());
+    Form->Start(planner::LoadState(), Options);
+    vcl::Application().Run();
+}
+
+} // namespace
+
+int main(int ArgumentCount, char** Arguments)
+{
+    try {
+        const planner::TOptions Options = planner::ParseOptions({Arguments + 1, Arguments + ArgumentCount});
+        if (Options.Help) {
+            std::fputs(planner::UsageText, stdout);
+            return 0;
+        }
+        vcl::qt::UseQt(ArgumentCount, Arguments);
+        if (Options.Dark)
+            planner::UseDarkColors();
+        if (Options.Screenshot.empty())
+            Run(Options);
+        else
+            TakePicture(Options);
+        return 0;
+    } catch (const std::exception& Error) {
+        std::fprintf(stderr, "kssuite-planner: %s\n", Error.what());
+        return 1;
+    }
+}
