@@ -50,17 +50,14 @@ std::vector<std::string> Lines(const std::string& Text)
 class Ksform : public testing::Test
 {
 protected:
-    TOutcome Run(const std::string& Arguments, const char* Program = "KSFORM") const
+    TOutcome Run(const std::string& Arguments, const std::string& Program = KSFORM) const
     {
-        const char* const Path = std::getenv(Program);
-        if (!Path)
-            throw std::runtime_error(std::string(Program) + " does not name the program to test");
-        const std::string Command = "cd '" + FFolder.GetPath().string() + "' && '" + Path + "' " + Arguments +
-                                    " >stdout.txt 2>stderr.txt";
+        const std::string Command = "cd '" + FFolder.GetPath().string() + "' && '" + Program + "' " +
+                                    Arguments + " >stdout.txt 2>stderr.txt";
         const int Status = std::system(Command.c_str());
         return {WEXITSTATUS(Status), Load(FFolder.File("stdout.txt")), Load(FFolder.File("stderr.txt"))};
     }
-    TOutcome RunSample(const std::string& Arguments) const { return Run(Arguments, "KSFORM_SAMPLE"); }
+    TOutcome RunSample(const std::string& Arguments) const { return Run(Arguments, KSFORM_SAMPLE); }
 
     static std::string Data(const std::string& Name) { return ReadTestData("model/forms/" + Name); }
     void Put(const std::string& Name, const std::string& Content) const { Save(FFolder.File(Name), Content); }

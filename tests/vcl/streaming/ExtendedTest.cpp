@@ -81,7 +81,7 @@ TEST(Extended, RefusesWhatIsNoNumber)
 TEST(Extended, TextComesBackAsTheSameBytes)
 {
     std::mt19937_64 Random(2);
-    for (int Count = 0; Count < 300; ++Count) {
+    for (int Count = 0; Count < 100; ++Count) {
         const std::uint64_t Bits = Random() | std::uint64_t{1} << 63;
         const TExtended Value =
             TExtended::FromParts((Random() & 1) != 0, static_cast<int>(Random() % 0x7FFF + 0), Bits);

@@ -212,8 +212,7 @@ const TClass& TSampleFrame::StaticClass()
 
 TSampleFrame::TSampleFrame(TComponent* Owner) : TSampleControl(Owner)
 {
-    const auto Place = [this](TSampleControl* Control, TSampleControl* Parent, const char* Name,
-                              TRect Bounds) {
+    const auto Place = [](TSampleControl* Control, TSampleControl* Parent, const char* Name, TRect Bounds) {
         Control->SetName(Name);
         Control->SetParentComponent(Parent);
         Control->SetLeft(Bounds.Left);
