@@ -64,7 +64,7 @@ std::unique_ptr<vcl::TImageList> MakeItemIcons()
     auto Images = std::make_unique<vcl::TImageList>();
     Images->SetSize(IconSize, IconSize);
     Add(*Images, Bell, vcl::TColor(0x003060), vcl::TColor(0x30C8FF));
-    Add(*Images, Padlock, vcl::TColor(0x404040), vcl::TColor(0xD0D0D0));
+    Add(*Images, Padlock, vcl::TColor(0x707070), vcl::TColor(0xE0E0E0));
     return Images;
 }
 

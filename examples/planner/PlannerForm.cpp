@@ -6,6 +6,7 @@
 
 #include "planner/Dialogs.h"
 #include "planner/EventText.h"
+#include "planner/ItemColors.h"
 #include "planner/ItemIcons.h"
 #include "planner/calendar/CalendarError.h"
 #include "vcl/forms/Application.h"
@@ -117,12 +118,24 @@ void TPlannerForm::Start(const TState& State, const TOptions& Options)
     const int Days = Options.Days.value_or(State.Days);
     ApplyMarks();
     Show(Options.Date && Options.Days ? TDaySpan{Day, Days} : TDaySpan::Around(Day, Days));
-    // The beginning of work stands a little below the top, so that what comes before it is noticed.
-    const int Minutes = State.ScrollMinutes >= 0
-                            ? State.ScrollMinutes
-                            : std::max(0, static_cast<int>(std::lround(FBeginWork * 24 * 60)) - 30);
     FTimeView->HandleNeeded();
-    FTimeView->SetVScrollPosition(Minutes * FTimeView->GetRulerMarkHeight() /
+    ScrollToMinute(State.ScrollMinutes >= 0 ? State.ScrollMinutes : FirstMinuteOfInterest());
+}
+
+int TPlannerForm::FirstMinuteOfInterest() const
+{
+    vcl::TTime Earliest = FBeginWork;
+    for (const TCalendarEvent& Event : FEvents)
+        if (!Event.AllDay && Event.Start >= FSpan.First)
+            Earliest = std::min(Earliest, Event.Start - std::floor(Event.Start));
+    // A little below the top, so that what comes before it is noticed.
+    constexpr int Above = 30;
+    return std::max(0, static_cast<int>(std::lround(Earliest * 24 * 60)) - Above);
+}
+
+void TPlannerForm::ScrollToMinute(int Minute)
+{
+    FTimeView->SetVScrollPosition(Minute * FTimeView->GetRulerMarkHeight() /
                                   Marks[static_cast<std::size_t>(FMarks)].Minutes);
 }
 
@@ -197,7 +210,7 @@ void TPlannerForm::FillView()
 void TPlannerForm::FillItem(TKSTimeViewItem& Item, int EventIndex) const
 {
     const TCalendarEvent& Event = FEvents[static_cast<std::size_t>(EventIndex)];
-    const vcl::TColor Color = FCalendars->GetCalendar(Event.Calendar).Color;
+    const vcl::TColor Color = ItemColor(FCalendars->GetCalendar(Event.Calendar).Color, HasDarkWindows());
     Item.SetColor(Color);
     Item.SetAllDayColor(Color);
     Item.SetShowReminder(Event.Reminder);
@@ -379,6 +392,14 @@ void TPlannerForm::FormCloseQuery(vcl::TObject*, bool& CanClose)
     CanClose = true;
     if (OnRemember)
         OnRemember(CurrentState());
+}
+
+void TPlannerForm::CMSysColorChange(vcl::TMessage& Message)
+{
+    TForm::CMSysColorChange(Message);
+    // The items' colours follow the system's: light tints or dark shades.
+    if (FTimeView)
+        FillView();
 }
 
 } // namespace planner

@@ -60,6 +60,9 @@ public:
     /// Where the state is kept when the window closes.
     std::function<void(const TState&)> OnRemember;
 
+protected:
+    void CMSysColorChange(vcl::TMessage& Message) override;
+
 private:
     template <class T>
     T* Find(const char* Name) const;
@@ -69,6 +72,8 @@ private:
     void FillItem(TKSTimeViewItem& Item, int EventIndex) const;
     void ApplyWorkingHours();
     void ApplyMarks();
+    int FirstMinuteOfInterest() const;
+    void ScrollToMinute(int Minute);
     void ShowRange();
     void ShowDetails(const TKSTimeViewItem* Item);
     void ShowDaysChoice();

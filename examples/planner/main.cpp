@@ -1,4 +1,5 @@
 #include <cstdio>
+#include <cstdlib>
 #include <exception>
 #include <memory>
 #include <stdexcept>
@@ -48,6 +49,20 @@ void Run(const planner::TOptions& Options)
     vcl::Application().Run();
 }
 
+bool HasScreen()
+{
+    return std::getenv("DISPLAY") || std::getenv("WAYLAND_DISPLAY") || std::getenv("QT_QPA_PLATFORM");
+}
+
+/// The toolkit ends the program when it finds no screen: say so first, and draw pictures without one.
+void PrepareScreen(const planner::TOptions& Options)
+{
+    if (!Options.Screenshot.empty())
+        setenv("QT_QPA_PLATFORM", "offscreen", 0);
+    else if (!HasScreen())
+        throw std::runtime_error("there is no screen; --screenshot FILE.png needs none");
+}
+
 } // namespace
 
 int main(int ArgumentCount, char** Arguments)
@@ -58,6 +73,7 @@ int main(int ArgumentCount, char** Arguments)
             std::fputs(planner::UsageText, stdout);
             return 0;
         }
+        PrepareScreen(Options);
         vcl::qt::UseQt(ArgumentCount, Arguments);
         if (Options.Dark)
             planner::UseDarkColors();

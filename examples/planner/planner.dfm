@@ -196,9 +196,10 @@ object PlannerForm: TPlannerForm
     DaysGapColor = clBtnFace
     DaysGapCoverColor = 13400908
     ItemSelectionColor = clHighlight
-    TimeLinesColor = 14474460
-    WorkingHoursColor = 16317690
     TopSpaceColor = clBtnFace
+    LongCaptionFormat = 'dddd d mmmm'
+    MediumCaptionFormat = 'ddd d mmm'
+    ShortCaptionFormat = 'd'
     TabOrder = 1
     TabStop = True
     OnItemClick = ItemClick
