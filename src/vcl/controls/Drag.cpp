@@ -164,18 +164,18 @@ void TDragSession::End(bool Drop)
         Forget();
         return;
     }
-    // The object may be the handler's; OnEndDrag is where it frees it.
-    const std::unique_ptr<TDragObject> Owned = std::move(FOwned);
-    TDragObject* const Object = FObject;
-    TObject* const Source = Owned ? static_cast<TObject*>(FSource.Get()) : Object;
     const TWeak<TControl> Target = FTarget;
     const bool Accepted = Drop && FAccepted && Target.Get();
-    TPoint Point = Object->FDragPos;
+    TPoint Point = FObject->FDragPos;
     if (Target.Get()) {
         Point = Target.Get()->ScreenToClient(Point);
         if (!Accepted)
             EnterTarget(nullptr);
     }
+    // The object may be the handler's: OnEndDrag is where it frees it.
+    TObject* const Source = EventSource();
+    const std::unique_ptr<TDragObject> Owned = std::move(FOwned);
+    TDragObject* const Object = FObject;
     Forget();
     if (Accepted && Target.Get())
         Target.Get()->DragDrop(Source, Point.X, Point.Y);
@@ -192,9 +192,10 @@ void TDragSession::Forget()
     FMoving = false;
     FAccepted = false;
     FEnding = false;
+    // While the source still has the capture, so that its window gets its own cursor back.
+    MouseTracker().SetDragCursor(crDefault);
     if (Source && MouseTracker().GetCapture() == Source)
         MouseTracker().SetCapture(nullptr);
-    MouseTracker().SetDragCursor(crDefault);
 }
 
 bool TDragSession::Handle(TWinControl& Window, const TMessage& Message)

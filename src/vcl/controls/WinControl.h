@@ -8,6 +8,7 @@
 #include "vcl/controls/CreateParams.h"
 #include "vcl/controls/FormSite.h"
 #include "vcl/graphics/Brush.h"
+#include "vcl/graphics/ScrollInfo.h"
 #include "vcl/platform/WindowSystem.h"
 
 namespace vcl
@@ -17,7 +18,6 @@ class TCanvas;
 class TClientSurface;
 class TControlWindow;
 class TWindowScrollBars;
-struct TScrollInfo;
 
 /// A control with a window of its own: focus, keyboard, scroll bars, timers, children.
 ///

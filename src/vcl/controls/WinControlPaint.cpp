@@ -87,6 +87,9 @@ void TWinControl::PaintTo(TCanvas& Canvas, int X, int Y)
 {
     HandleNeeded();
     TAliveGuard Guard(*this);
+    if (Canvas.GetClipRect().IsEmpty()) // also attaches a canvas that waits for its first drawing
+        return;
+    const TCanvasStateGuard State(Canvas);
     const TPoint Before = Canvas.GetOrigin();
     const TPoint Corner{Before.X + X, Before.Y + Y};
     if (TSurface* const Surface = Canvas.GetSurface())
@@ -107,7 +110,6 @@ void TWinControl::PaintTo(TCanvas& Canvas, int X, int Y)
         Canvas.SetOrigin(Client);
         Control->PaintTo(Canvas, Control->GetLeft(), Control->GetTop());
     }
-    Canvas.SetOrigin(Before);
 }
 
 bool TWinControl::IsSelfDrawn() const

@@ -79,9 +79,9 @@ TModalResult TCustomForm::ShowModal()
     FModalResult = mrNone;
     GetHandle()->SetModal(true);
     Show();
-    TModalResult Result = mrCancel;
+    TModalResult Result = mrNone;
     Platform().Windows().RunUntil([&] {
-        if (!Guard.IsAlive())
+        if (!Guard.IsAlive() || Result != mrNone)
             return true;
         if (Application().GetTerminated())
             FModalResult = mrCancel;
@@ -89,12 +89,12 @@ TModalResult TCustomForm::ShowModal()
             RunGuarded(this, [this] { CloseModal(); });
         if (Guard.IsAlive())
             Result = FModalResult;
-        return !Guard.IsAlive() || FModalResult != mrNone;
+        return !Guard.IsAlive() || Result != mrNone;
     });
+    if (Result == mrNone)
+        Result = mrCancel; // the form was freed, or the platform ended
     if (!Guard.IsAlive())
         return Result;
-    if (Result == mrNone)
-        Result = mrCancel; // the platform ended
     FModal = false;
     Hide();
     if (Guard.IsAlive() && HandleAllocated())
