@@ -4,7 +4,6 @@
 #include <memory>
 #include <stdexcept>
 
-#include "planner/DarkColors.h"
 #include "planner/FormTexts.h"
 #include "planner/Options.h"
 #include "planner/PlannerForm.h"
@@ -12,6 +11,7 @@
 #include "vcl/forms/Application.h"
 #include "vcl/forms/StandardClasses.h"
 #include "vcl/platform/qt/QtPlatform.h"
+#include "vcl/qt/DarkColors.h"
 #include "vcl/qt/Snapshot.h"
 
 namespace
@@ -76,7 +76,7 @@ int main(int ArgumentCount, char** Arguments)
         PrepareScreen(Options);
         vcl::qt::UseQt(ArgumentCount, Arguments);
         if (Options.Dark)
-            planner::UseDarkColors();
+            vcl::qt::UseDarkColors();
         if (Options.Screenshot.empty())
             Run(Options);
         else

@@ -1,10 +1,10 @@
-#include "planner/DarkColors.h"
+#include "vcl/qt/DarkColors.h"
 
 #include <QApplication>
 #include <QPalette>
 #include <QStyleFactory>
 
-namespace planner
+namespace vcl::qt
 {
 
 void UseDarkColors()
@@ -32,4 +32,4 @@ void UseDarkColors()
     QApplication::setPalette(Palette);
 }
 
-} // namespace planner
+} // namespace vcl::qt

@@ -1,9 +1,9 @@
 #pragma once
 
-namespace planner
+namespace vcl::qt
 {
 
 /// Gives the application a dark palette, as a desktop with a dark theme would.
 void UseDarkColors();
 
-} // namespace planner
+} // namespace vcl::qt
