@@ -1,0 +1,42 @@
+#pragma once
+
+#include <utility>
+
+#include "KSTreeView/model/Life.h"
+#include "KSTreeView/model/TreeHost.h"
+
+namespace treeview
+{
+
+/// What deleting nodes may raise.
+inline constexpr TTreeEvents DeletionEvents{TTreeEvent::Deletion, TTreeEvent::Collapsing,
+                                            TTreeEvent::Collapsed, TTreeEvent::Changing, TTreeEvent::Change};
+/// What expanding and collapsing may raise.
+inline constexpr TTreeEvents ExpansionEvents{TTreeEvent::Expanding,  TTreeEvent::Expanded,
+                                             TTreeEvent::Collapsing, TTreeEvent::Collapsed,
+                                             TTreeEvent::Changing,   TTreeEvent::Change};
+
+/// Runs Action with all its refreshing and drawing made one refresh at the end, if nobody can tell: while
+/// none of Events, and no event of painting, has a handler. Otherwise just runs it.
+template <class TAction>
+void Coalesced(ITreeHost* Host, const TLife& Life, TTreeEvents Events, TAction&& Action)
+{
+    const TTreeEvents All = Events + TTreeEvents{TTreeEvent::GetImageIndex, TTreeEvent::DrawNode};
+    if (!Host || Host->IsAnyAssigned(All)) {
+        std::forward<TAction>(Action)();
+        return;
+    }
+    const TLifeWitness Witness(Life);
+    Host->BeginCoalescing();
+    try {
+        std::forward<TAction>(Action)();
+    } catch (...) {
+        if (Witness.IsAlive())
+            Host->EndCoalescing();
+        throw;
+    }
+    if (Witness.IsAlive())
+        Host->EndCoalescing();
+}
+
+} // namespace treeview

@@ -1,0 +1,200 @@
+#include "KSTreeView/model/SubtreeRemoval.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace treeview
+{
+
+TSubtreeRemoval::TSubtreeRemoval(TKSTreeNode& Root, bool Force)
+    : FRoot(Root), FNodes(Root.FOwner), FForce(Force)
+{
+    if (FNodes)
+        FNodes->FRemovals.push_back(this);
+}
+
+TSubtreeRemoval::~TSubtreeRemoval()
+{
+    if (FNodes)
+        std::erase(FNodes->FRemovals, this);
+}
+
+template <class TAction>
+bool TSubtreeRemoval::Try(TAction&& Action)
+{
+    try {
+        std::forward<TAction>(Action)();
+        return true;
+    } catch (...) {
+        if (!FFailure)
+            FFailure = std::current_exception();
+        return false;
+    }
+}
+
+void TSubtreeRemoval::Run()
+{
+    TKSTreeNode* Node = &FRoot;
+    bool Entering = true;
+    for (;;) {
+        if (Entering && !Enter(Node)) {
+            Unmark(Node);
+            break;
+        }
+        Entering = false;
+        TKSTreeNode* Child = Node->FirstStayingChild();
+        if (!Child) {
+            Settle(Node);
+            Child = Node->FirstStayingChild(); // a handler may have added one
+        }
+        if (Child) {
+            Node = Child;
+            Entering = true;
+            continue;
+        }
+        TKSTreeNode* const Parent = Node->FParent;
+        const bool Done = Node == &FRoot;
+        Leave(Node);
+        if (Done)
+            break;
+        Node = Parent;
+    }
+    if (FFailure && !FForce)
+        std::rethrow_exception(FFailure);
+}
+
+bool TSubtreeRemoval::Enter(TKSTreeNode* Node)
+{
+    Node->FDeleting = true;
+    const bool Told = Try([&] {
+        if (ITreeHost* const Host = Node->Host())
+            Host->NodeDeleting(Node);
+        if (Node->FOwner)
+            CollapseBelow(Node);
+    });
+    // A node the collection has let go of cannot stay.
+    return Told || FForce || FAbandoned || !FRoot.FLinked;
+}
+
+void TSubtreeRemoval::CollapseBelow(TKSTreeNode* Node)
+{
+    ITreeHost* const Host = Node->Host();
+    const bool IsHeard = Host && Host->IsAnyAssigned({TTreeEvent::Collapsing, TTreeEvent::Collapsed,
+                                                      TTreeEvent::Changing, TTreeEvent::Change});
+    if (FCollapsed && !IsHeard)
+        return;
+    Node->Collapse(true);
+    FCollapsed = FCollapsed || (Node == &FRoot && !IsHeard);
+}
+
+void TSubtreeRemoval::Unmark(TKSTreeNode* Node)
+{
+    while (Node != &FRoot) {
+        Node->FDeleting = false;
+        Node = Node->FParent;
+    }
+    FRoot.FDeleting = false;
+}
+
+void TSubtreeRemoval::Settle(TKSTreeNode* Node)
+{
+    Try([&] { Node->SetHasChildren(false); });
+    if (Node->FOwner)
+        Node->FOwner->Uncount(Node);
+    Try([&] {
+        ITreeHost* const Host = Node->Host();
+        if (Host && Host->SelectedNode() == Node)
+            Host->SelectNode(nullptr);
+    });
+    Try([&] {
+        ITreeHost* const Host = Node->Host();
+        if (Host && Host->FocusedNode() == Node)
+            Host->FocusNode(nullptr);
+    });
+}
+
+void TSubtreeRemoval::OrphanChildren(TKSTreeNode* Node)
+{
+    // Left are children whose removal goes on further up the stack.
+    while (TKSTreeNode* const Child = Node->FFirstChild) {
+        Node->FFirstChild = Child->FNextSibling;
+        Child->FParent = nullptr;
+        Child->FPrevSibling = nullptr;
+        Child->FNextSibling = nullptr;
+        Child->FLinked = false;
+        if (Child->FOwner)
+            Child->FOwner->Uncount(Child);
+    }
+    Node->FLastChild = nullptr;
+}
+
+void TSubtreeRemoval::Leave(TKSTreeNode* Node)
+{
+    OrphanChildren(Node);
+    if (ITreeHost* const Host = Node->Host())
+        Host->ForgetNode(Node);
+    TKSTreeNodes* const Nodes = Node->FOwner;
+    TKSTreeNode* const Parent = Node->FParent;
+    const bool IsShown = Node->FLinked && Nodes && !Nodes->IsUpdating();
+    const bool WasVisible = IsShown && Node->IsVisible();
+    const bool WasLinked = Node->FLinked;
+    if (Nodes) {
+        Nodes->Uncount(Node);
+        Nodes->Unlink(Node);
+        Nodes->NodeGone(Node);
+    } else if (Parent) {
+        // The collection is gone; what is left of the tree is its marked nodes.
+        Parent->FFirstChild = Parent->FLastChild = nullptr;
+    }
+    if (WasLinked && Nodes)
+        Try([&] { TellOfGap(Parent, WasVisible); });
+    vcl::TObject::operator delete (Node, std::destroying_delete_t{});
+}
+
+void TSubtreeRemoval::TellOfGap(TKSTreeNode* Parent, bool WasVisible)
+{
+    const bool IsUpdating = FNodes->IsUpdating();
+    if (!Parent) {
+        FNodes->RefreshUnlessUpdating();
+        return;
+    }
+    if (Parent->FDeleting)
+        return;
+    if (!Parent->FFirstChild) {
+        Parent->FHasChildren = false;
+        Parent->FStates.Exclude(TKSTNNodeState::nsExpanded);
+    }
+    if (IsUpdating)
+        return;
+    if (WasVisible)
+        FNodes->RefreshUnlessUpdating();
+    else
+        Parent->Draw();
+}
+
+TKSTreeNode* TSubtreeRemoval::FirstStaying() const
+{
+    const TKSTreeNode* const End = FRoot.NextOutside();
+    for (TKSTreeNode* Node = FRoot.FFirstChild; Node && Node != End; Node = Node->GetNext())
+        if (!Node->FDeleting)
+            return Node;
+    return nullptr;
+}
+
+void TSubtreeRemoval::Abandon(bool OwnerGoes)
+{
+    TKSTreeNode* const End = FRoot.NextOutside();
+    for (TKSTreeNode* Node = &FRoot; Node && Node != End; Node = Node->GetNext()) {
+        Node->FLinked = false;
+        Node->FCounted = false;
+        if (OwnerGoes)
+            Node->FOwner = nullptr;
+    }
+    if (!FRoot.FParent)
+        FRoot.FPrevSibling = FRoot.FNextSibling = nullptr;
+    FAbandoned = true;
+    if (OwnerGoes)
+        FNodes = nullptr;
+}
+
+} // namespace treeview

@@ -1,0 +1,354 @@
+#include "KSTreeView/model/TreeNodes.h"
+
+#include <algorithm>
+#include <typeinfo>
+
+#include "KSTreeView/model/Coalesced.h"
+#include "KSTreeView/model/SubtreeRemoval.h"
+#include "vcl/streaming/Filer.h"
+
+using treeview::TLifeWitness;
+using treeview::TSubtreeRemoval;
+
+const vcl::TClass& TKSTreeNodes::StaticClass()
+{
+    static const vcl::TClass Class = vcl::DefineClass<TKSTreeNodes, vcl::TPersistent>("TKSTreeNodes");
+    return Class;
+}
+
+TKSTreeNodes::TKSTreeNodes(treeview::ITreeHost* Host) : FHost(Host)
+{
+}
+
+TKSTreeNodes::~TKSTreeNodes()
+{
+    FUpdateCount = 1;
+    DeleteAll(true);
+    for (treeview::TNodeRef* Ref : FRefs) {
+        Ref->FNode = nullptr;
+        Ref->FNodes = nullptr;
+    }
+}
+
+TKSTreeNode* TKSTreeNodes::LastNode() const
+{
+    TKSTreeNode* Node = FLastNode;
+    while (Node && Node->FLastChild)
+        Node = Node->FLastChild;
+    return Node;
+}
+
+TKSTreeNode* TKSTreeNodes::GetNodeFromIndex(int Index) const
+{
+    if (Index < 0 || Index >= FCount)
+        throw EKSTreeViewError("Invalid Index");
+    TKSTreeNode* Node = FFirstNode;
+    int At = 0;
+    if (FCursorNode && std::abs(Index - FCursorIndex) < Index) {
+        Node = FCursorNode;
+        At = FCursorIndex;
+    }
+    if (FCount - 1 - Index < std::abs(Index - At)) {
+        Node = LastNode();
+        At = FCount - 1;
+    }
+    for (; At < Index && Node; ++At)
+        Node = Node->GetNext();
+    for (; At > Index && Node; --At)
+        Node = Node->GetPrev();
+    if (!Node)
+        throw EKSTreeViewError("Invalid Index");
+    RememberIndex(Node, Index);
+    return Node;
+}
+
+void TKSTreeNodes::RememberIndex(TKSTreeNode* Node, int Index) const
+{
+    FCursorNode = Node;
+    FCursorIndex = Index;
+}
+
+void TKSTreeNodes::ForgetCursors() const
+{
+    FCursorNode = nullptr;
+    FChildCursorNode = nullptr;
+}
+
+void TKSTreeNodes::NodeLinked(TKSTreeNode* Node, TKSTreeNode* Parent)
+{
+    Node->FParent = Parent;
+    Node->FLinked = true;
+    ++(Parent ? Parent->FChildCount : FTopCount);
+    ForgetCursors();
+    ShapeChanged();
+}
+
+void TKSTreeNodes::LinkFirst(TKSTreeNode* Node, TKSTreeNode* Parent)
+{
+    TKSTreeNode*& First = Parent ? Parent->FFirstChild : FFirstNode;
+    TKSTreeNode*& Last = Parent ? Parent->FLastChild : FLastNode;
+    Node->FNextSibling = First;
+    (First ? First->FPrevSibling : Last) = Node;
+    First = Node;
+    NodeLinked(Node, Parent);
+}
+
+void TKSTreeNodes::LinkLast(TKSTreeNode* Node, TKSTreeNode* Parent)
+{
+    TKSTreeNode*& First = Parent ? Parent->FFirstChild : FFirstNode;
+    TKSTreeNode*& Last = Parent ? Parent->FLastChild : FLastNode;
+    Node->FPrevSibling = Last;
+    (Last ? Last->FNextSibling : First) = Node;
+    Last = Node;
+    NodeLinked(Node, Parent);
+}
+
+void TKSTreeNodes::LinkBefore(TKSTreeNode* Node, TKSTreeNode* Sibling)
+{
+    TKSTreeNode* const Parent = Sibling->FParent;
+    TKSTreeNode* const Previous = Sibling->FPrevSibling;
+    Node->FPrevSibling = Previous;
+    Node->FNextSibling = Sibling;
+    Sibling->FPrevSibling = Node;
+    (Previous ? Previous->FNextSibling : Parent ? Parent->FFirstChild : FFirstNode) = Node;
+    NodeLinked(Node, Parent);
+}
+
+void TKSTreeNodes::Unlink(TKSTreeNode* Node)
+{
+    TKSTreeNode* const Parent = Node->FParent;
+    TKSTreeNode*& First = Parent ? Parent->FFirstChild : FFirstNode;
+    TKSTreeNode*& Last = Parent ? Parent->FLastChild : FLastNode;
+    if (First == Node)
+        First = Node->FNextSibling;
+    if (Last == Node)
+        Last = Node->FPrevSibling;
+    if (Node->FPrevSibling)
+        Node->FPrevSibling->FNextSibling = Node->FNextSibling;
+    if (Node->FNextSibling)
+        Node->FNextSibling->FPrevSibling = Node->FPrevSibling;
+    Node->FPrevSibling = Node->FNextSibling = nullptr;
+    if (Parent)
+        --Parent->FChildCount;
+    else if (Node->FLinked)
+        --FTopCount;
+    ForgetCursors();
+    ShapeChanged();
+}
+
+void TKSTreeNodes::Count(TKSTreeNode* Node)
+{
+    Node->FCounted = true;
+    ++FCount;
+}
+
+void TKSTreeNodes::Uncount(TKSTreeNode* Node)
+{
+    if (Node->FCounted)
+        --FCount;
+    Node->FCounted = false;
+}
+
+void TKSTreeNodes::NodeGone(TKSTreeNode* Node)
+{
+    ++FGoneSerial;
+    for (treeview::TNodeRef* Ref : FRefs)
+        if (Ref->FNode == Node)
+            Ref->FNode = nullptr;
+}
+
+void TKSTreeNodes::RefreshUnlessUpdating()
+{
+    if (FHost && !IsUpdating())
+        FHost->RefreshView();
+}
+
+TKSTreeNode* TKSTreeNodes::NewNode()
+{
+    TKSTreeNode* const Node = FHost ? FHost->CreateNode() : vcl::New<TKSTreeNode>(this);
+    const TKSTreeNode& Made = *Node;
+    FHasCustomNodes = FHasCustomNodes || typeid(Made) != typeid(TKSTreeNode);
+    return Node;
+}
+
+TKSTreeNode* TKSTreeNodes::InternalAddObject(TKSTreeNode* Parent, const vcl::AnsiString& Text, void* Data,
+                                             TKSTNAddMode Mode)
+{
+    TKSTreeNode* const Node = NewNode();
+    Node->FData = Data;
+    Node->FText = Text;
+    Node->FLevel = Parent ? Parent->FLevel + 1 : 0;
+    if (Mode == TKSTNAddMode::taAddFirst)
+        LinkFirst(Node, Parent);
+    else
+        LinkLast(Node, Parent);
+    const treeview::TNodeRef Added(Node);
+    const TLifeWitness Witness(FLife);
+    if (Parent)
+        Parent->SetHasChildren(true);
+    if (Added && !IsUpdating() && Node->IsVisible())
+        RefreshUnlessUpdating();
+    if (Witness.IsAlive() && Added)
+        Count(Node);
+    return Added.Get();
+}
+
+TKSTreeNode* TKSTreeNodes::Add(TKSTreeNode* Sibling, const vcl::AnsiString& Text)
+{
+    return AddObject(Sibling, Text, nullptr);
+}
+
+TKSTreeNode* TKSTreeNodes::AddObject(TKSTreeNode* Sibling, const vcl::AnsiString& Text, void* Data)
+{
+    return InternalAddObject(Sibling ? Sibling->FParent : nullptr, Text, Data, TKSTNAddMode::taAdd);
+}
+
+TKSTreeNode* TKSTreeNodes::AddFirst(TKSTreeNode* Sibling, const vcl::AnsiString& Text)
+{
+    return AddObjectFirst(Sibling, Text, nullptr);
+}
+
+TKSTreeNode* TKSTreeNodes::AddObjectFirst(TKSTreeNode* Sibling, const vcl::AnsiString& Text, void* Data)
+{
+    return InternalAddObject(Sibling ? Sibling->FParent : nullptr, Text, Data, TKSTNAddMode::taAddFirst);
+}
+
+TKSTreeNode* TKSTreeNodes::AddChild(TKSTreeNode* Parent, const vcl::AnsiString& Text)
+{
+    return AddChildObject(Parent, Text, nullptr);
+}
+
+TKSTreeNode* TKSTreeNodes::AddChildObject(TKSTreeNode* Parent, const vcl::AnsiString& Text, void* Data)
+{
+    return InternalAddObject(Parent, Text, Data, TKSTNAddMode::taAdd);
+}
+
+TKSTreeNode* TKSTreeNodes::AddChildFirst(TKSTreeNode* Parent, const vcl::AnsiString& Text)
+{
+    return AddChildObjectFirst(Parent, Text, nullptr);
+}
+
+TKSTreeNode* TKSTreeNodes::AddChildObjectFirst(TKSTreeNode* Parent, const vcl::AnsiString& Text, void* Data)
+{
+    return InternalAddObject(Parent, Text, Data, TKSTNAddMode::taAddFirst);
+}
+
+TKSTreeNode* TKSTreeNodes::Insert(TKSTreeNode* Sibling, const vcl::AnsiString& Text)
+{
+    return InsertObject(Sibling, Text, nullptr);
+}
+
+TKSTreeNode* TKSTreeNodes::InsertObject(TKSTreeNode* Sibling, const vcl::AnsiString& Text, void* Data)
+{
+    TKSTreeNode* const Node = NewNode();
+    const treeview::TNodeRef Added(Node);
+    Node->FLinked = true;
+    Node->SetData(Data);
+    ++FTopCount;
+    Node->SetText(Text); // drawn although it stands nowhere yet: the one place where adding a node draws it
+    if (!Added)
+        return nullptr;
+    --FTopCount;
+    if (Sibling && Sibling->FLinked) {
+        Node->FLevel = Sibling->FLevel;
+        LinkBefore(Node, Sibling);
+    } else {
+        Node->FLevel = 0;
+        LinkLast(Node, nullptr);
+    }
+    if (TKSTreeNode* const Parent = Node->FParent)
+        Parent->SetHasChildren(true);
+    if (Added)
+        Count(Node);
+    return Added.Get();
+}
+
+void TKSTreeNodes::Delete(TKSTreeNode* Node)
+{
+    if (Node)
+        Node->Delete();
+}
+
+template <class TAction>
+void TKSTreeNodes::WhileUpdating(TAction&& Action)
+{
+    const TLifeWitness Witness(FLife);
+    BeginUpdate();
+    try {
+        Action();
+    } catch (...) {
+        if (Witness.IsAlive())
+            EndUpdate();
+        throw;
+    }
+    if (Witness.IsAlive())
+        EndUpdate();
+}
+
+void TKSTreeNodes::Clear()
+{
+    WhileUpdating([this] { DeleteAll(false); });
+}
+
+TKSTreeNode* TKSTreeNodes::FirstStaying() const
+{
+    for (const TSubtreeRemoval* Removal : FRemovals)
+        if (TKSTreeNode* const Node = Removal->FirstStaying())
+            return Node;
+    TKSTreeNode* Node = FFirstNode;
+    while (Node && Node->FDeleting)
+        Node = Node->NextOutside();
+    return Node;
+}
+
+void TKSTreeNodes::DeleteAll(bool OwnerGoes)
+{
+    const TLifeWitness Witness(FLife);
+    while (TKSTreeNode* const Node = FirstStaying()) {
+        if (OwnerGoes)
+            delete Node;
+        else
+            Node->Delete();
+        if (!Witness.IsAlive())
+            return;
+    }
+    for (TSubtreeRemoval* Removal : FRemovals)
+        Removal->Abandon(OwnerGoes);
+    FFirstNode = FLastNode = nullptr;
+    FCount = FTopCount = 0;
+    ForgetCursors();
+    ShapeChanged();
+}
+
+void TKSTreeNodes::BeginUpdate()
+{
+    ++FUpdateCount;
+}
+
+void TKSTreeNodes::EndUpdate()
+{
+    if (--FUpdateCount == 0 && FHost)
+        FHost->RefreshView();
+}
+
+bool TKSTreeNodes::DiffersFrom(const TKSTreeNodes& Ancestor) const
+{
+    const TKSTreeNode* Theirs = Ancestor.FFirstNode;
+    for (const TKSTreeNode* Node = FFirstNode; Node; Node = Node->GetNext()) {
+        if (!Theirs || !Node->IsEqual(*Theirs))
+            return true;
+        Theirs = Theirs->GetNext();
+    }
+    return false;
+}
+
+void TKSTreeNodes::DefineProperties(vcl::TFiler& Filer)
+{
+    TPersistent::DefineProperties(Filer);
+    const auto* const Ancestor = vcl::As<TKSTreeNodes>(static_cast<vcl::TObject*>(Filer.GetAncestor()));
+    const bool IsComparable = Ancestor && Ancestor->GetCount() == GetCount();
+    Filer.DefineBinaryProperty(
+        "Data", [this](vcl::TStream& Stream) { ReadData(Stream); },
+        [this](vcl::TStream& Stream) { WriteData(Stream); },
+        IsComparable ? DiffersFrom(*Ancestor) : GetCount() > 0);
+}

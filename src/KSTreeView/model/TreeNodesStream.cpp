@@ -1,0 +1,165 @@
+// The binary form of nodes: records of a node and of all below it, parents first.
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <vector>
+
+#include "KSTreeView/model/Coalesced.h"
+#include "KSTreeView/model/TreeNodes.h"
+
+namespace
+{
+
+constexpr int InfoSize = 16;
+using TInfoBytes = std::array<std::uint8_t, InfoSize>;
+
+void StoreInt32(std::uint8_t* Bytes, std::int32_t Value)
+{
+    for (unsigned Index = 0; Index < 4; ++Index)
+        Bytes[Index] = static_cast<std::uint8_t>(static_cast<std::uint32_t>(Value) >> (8 * Index));
+}
+
+std::int32_t LoadInt32(const std::uint8_t* Bytes)
+{
+    std::uint32_t Value = 0;
+    for (unsigned Index = 0; Index < 4; ++Index)
+        Value |= static_cast<std::uint32_t>(Bytes[Index]) << (8 * Index);
+    return static_cast<std::int32_t>(Value);
+}
+
+TInfoBytes BytesOf(const TKSNodeInfo& Info)
+{
+    TInfoBytes Bytes{};
+    StoreInt32(&Bytes[0], Info.ImageIndex);
+    StoreInt32(&Bytes[4], Info.Data);
+    StoreInt32(&Bytes[8], Info.IntData);
+    StoreInt32(&Bytes[12], Info.Count);
+    return Bytes;
+}
+
+/// What the record does not hold stays as it was in Info.
+void ReadInfo(vcl::TStream& Stream, TKSNodeInfo& Info)
+{
+    const int Size = Stream.ReadInt32();
+    if (Size < 0 || Size > InfoSize)
+        throw vcl::EReadError("Stream read error");
+    TInfoBytes Bytes = BytesOf(Info);
+    Stream.ReadBuffer(Bytes.data(), Size);
+    Info = {LoadInt32(&Bytes[0]), LoadInt32(&Bytes[4]), LoadInt32(&Bytes[8]), LoadInt32(&Bytes[12])};
+}
+
+} // namespace
+
+void TKSTreeNode::ReadRecord(vcl::TStream& Stream, TKSNodeInfo& Info)
+{
+    ReadInfo(Stream, Info);
+    FText = Stream.ReadCountedString();
+    FStringData = Stream.ReadCountedString();
+    FImageIndex = Info.ImageIndex;
+    FData = reinterpret_cast<void*>(std::uintptr_t{static_cast<std::uint32_t>(Info.Data)});
+    FIntData = Info.IntData;
+}
+
+void TKSTreeNode::WriteRecord(vcl::TStream& Stream, TKSNodeInfo& Info) const
+{
+    Info = {FImageIndex,
+            static_cast<std::int32_t>(static_cast<std::uint32_t>(std::bit_cast<std::uintptr_t>(FData))),
+            FIntData, FChildCount};
+    Stream.WriteInt32(InfoSize);
+    const TInfoBytes Bytes = BytesOf(Info);
+    Stream.WriteBuffer(Bytes.data(), InfoSize);
+    Stream.WriteCountedString(FText);
+    Stream.WriteCountedString(FStringData);
+}
+
+void TKSTreeNode::ReadData(vcl::TStream& Stream, TKSNodeInfo& Info)
+{
+    struct TPending {
+        TKSTreeNode* Parent;
+        int Children;
+    };
+    ReadRecord(Stream, Info);
+    if (!FOwner)
+        return;
+    const treeview::TLifeWitness Witness(FOwner->GetLife());
+    const std::uint64_t Gone = FOwner->GetGoneSerial();
+    TKSTreeNodes* const Nodes = FOwner;
+    std::vector<TPending> Pending{{this, Info.Count}};
+    while (!Pending.empty()) {
+        TPending& Last = Pending.back();
+        if (Last.Children <= 0) {
+            Pending.pop_back();
+            continue;
+        }
+        --Last.Children;
+        TKSTreeNode* const Child = Nodes->AddChild(Last.Parent, {});
+        if (!Witness.IsAlive() || Nodes->GetGoneSerial() != Gone)
+            return; // a handler takes away what is being read
+        Child->ReadRecord(Stream, Info);
+        // The last child takes its parent's place: a chain needs no memory a level.
+        if (Last.Children == 0)
+            Last = {Child, Info.Count};
+        else
+            Pending.push_back({Child, Info.Count});
+    }
+}
+
+void TKSTreeNode::WriteData(vcl::TStream& Stream, TKSNodeInfo& Info) const
+{
+    const TKSTreeNode* const End = NextOutside();
+    for (const TKSTreeNode* Node = this; Node != End; Node = Node->GetNext())
+        Node->WriteRecord(Stream, Info);
+}
+
+void TKSTreeNodes::ReadTopNodes(vcl::TStream& Stream)
+{
+    const treeview::TLifeWitness Witness(FLife);
+    Clear();
+    if (!Witness.IsAlive())
+        return;
+    const std::uint64_t Gone = FGoneSerial;
+    TKSNodeInfo Info;
+    // A count that lies meets the end of the stream.
+    for (int Left = Stream.ReadInt32(); Left > 0; --Left) {
+        TKSTreeNode* const Node = Add(nullptr, {});
+        if (Witness.IsAlive() && FGoneSerial == Gone)
+            Node->ReadData(Stream, Info);
+        if (!Witness.IsAlive() || FGoneSerial != Gone)
+            return;
+    }
+}
+
+void TKSTreeNodes::ReadData(vcl::TStream& Stream)
+{
+    treeview::Coalesced(FHost, FLife, treeview::DeletionEvents, [&] { ReadTopNodes(Stream); });
+}
+
+void TKSTreeNodes::WriteData(vcl::TStream& Stream) const
+{
+    Stream.WriteInt32(FTopCount);
+    TKSNodeInfo Info;
+    for (const TKSTreeNode* Node = FFirstNode; Node; Node = Node->FNextSibling)
+        Node->WriteData(Stream, Info);
+}
+
+void TKSTreeNodes::Assign(const vcl::TPersistent* Source)
+{
+    const auto* const Nodes = vcl::As<TKSTreeNodes>(static_cast<const vcl::TObject*>(Source));
+    if (!Nodes) {
+        TPersistent::Assign(Source);
+        return;
+    }
+    if (Nodes == this)
+        return;
+    const treeview::TLifeWitness Witness(FLife);
+    treeview::Coalesced(FHost, FLife, treeview::DeletionEvents, [&] {
+        vcl::TMemoryStream Stream;
+        Nodes->WriteData(Stream);
+        Clear();
+        if (!Witness.IsAlive())
+            return;
+        Stream.SetPosition(0);
+        ReadData(Stream);
+    });
+}
