@@ -252,6 +252,22 @@ TEST_F(Ksform, CheckGoesOnWithTheNextFile)
     EXPECT_EQ(Outcome.Output, "");
 }
 
+TEST_F(Ksform, CheckKnowsTheStandardControlsAndReadsAFormOfAnUnknownClassAsAPlainOne)
+{
+    const std::string Good = "object MainForm: TMainForm\n"
+                             "  ClientWidth = 300\n"
+                             "  PixelsPerInch = 96\n"
+                             "  TextHeight = 13\n"
+                             "  OldCreateOrder = False\n"
+                             "  OnCreate = FormCreate\n"
+                             "  object Panel: TPanel\n"
+                             "    Align = alTop\n";
+    Put("good.dfm", Good + "  end\nend\n");
+    EXPECT_EQ(Run("check good.dfm").Output, "");
+    Put("bad.dfm", Good + "    Wrong = 1\n  end\nend\n");
+    EXPECT_THAT(Lines(Run("check bad.dfm").Output), ElementsAre(StartsWith("bad.dfm:9:5: ")));
+}
+
 TEST_F(Ksform, ListShowsTheRowsOfAClass)
 {
     EXPECT_THAT(RunSample("list").Output, HasSubstr("TSampleGrid                  TSampleControl\n"));
