@@ -265,6 +265,7 @@ protected:
     /// Mouse operations under way.
     timeview::TOperationFlags FOperations;
 
+    void Loaded() override;
     void Paint() override;
     void CreateParams(vcl::TCreateParams& Params) override;
     void DestroyWnd() override;
@@ -313,6 +314,8 @@ private:
     timeview::TViewGeometry Geometry() const;
     void PaintDay(TKSTimeviewDay& Day);
     void DrawItem(TKSTimeviewDay& Day, TKSTimeViewItem* Item);
+    void ApplyLoadedScrollPosition();
+    void ScrollTo(int Value);
     void ScrollByMarks(int Marks);
     void Scroll(timeview::TScrollRequest Request, int ThumbPosition = 0);
     TKSTimeViewItem* ItemAt(int X, int Y) const;

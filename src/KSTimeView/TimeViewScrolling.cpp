@@ -1,5 +1,7 @@
 // The vertical scale and its scroll bar.
 
+#include <utility>
+
 #include "KSTimeView/TimeView.h"
 #include "vcl/graphics/ScrollInfo.h"
 #include "vcl/platform/Platform.h"
@@ -45,6 +47,11 @@ void TKSTimeView::SetVScrollPosition(int Value)
     // A form file's position may stand before the sizes it depends on.
     if (Is(vcl::TComponentState::csLoading))
         FLoadedScrollPosition = Value;
+    ScrollTo(Value);
+}
+
+void TKSTimeView::ScrollTo(int Value)
+{
     const timeview::TScrollTarget Target = timeview::ScrollTarget(ScrollMetrics(), Value);
     FBarPosition = Target.BarPosition;
     if (Target.Offset != FScrollOffset) {
@@ -68,7 +75,7 @@ void TKSTimeView::UpdateVScrollBar()
     Info.Max = Range.Max;
     Info.Page = static_cast<unsigned>(Range.Page);
     SetScrollInfo(VerticalBar, Info, true);
-    SetVScrollPosition(FScrollOffset);
+    ScrollTo(FScrollOffset);
 }
 
 void TKSTimeView::WMSize(vcl::TMessage& Message)
@@ -82,10 +89,20 @@ void TKSTimeView::WMSize(vcl::TMessage& Message)
     // The first layout makes the top space; the bar was computed without it.
     if (FBarTopSpace != GetEffectiveTopSpace())
         UpdateVScrollBar();
-    if (FLoadedScrollPosition && HandleAllocated())
-        SetVScrollPosition(*FLoadedScrollPosition);
-    FLoadedScrollPosition.reset();
+    ApplyLoadedScrollPosition();
     Invalidate();
+}
+
+void TKSTimeView::Loaded()
+{
+    TCustomControl::Loaded();
+    ApplyLoadedScrollPosition();
+}
+
+void TKSTimeView::ApplyLoadedScrollPosition()
+{
+    if (FLoadedScrollPosition && HandleAllocated() && !Is(vcl::TComponentState::csLoading))
+        ScrollTo(*std::exchange(FLoadedScrollPosition, std::nullopt));
 }
 
 void TKSTimeView::ScrollInView(TKSTimeViewItem* Item, TKSTimeviewDay* Day)
