@@ -1,5 +1,6 @@
 #include "vcl/forms/LoadForm.h"
 
+#include "vcl/forms/StandardClasses.h"
 #include "vcl/streaming/FormFile.h"
 
 namespace vcl
@@ -7,11 +8,13 @@ namespace vcl
 
 void LoadForm(TCustomForm& Form, TStream& Stream)
 {
+    RegisterStandardClasses();
     ReadForm(Stream, &Form);
 }
 
 void LoadForm(TCustomForm& Form, const AnsiString& FileName)
 {
+    RegisterStandardClasses();
     ReadFormFile(FileName, &Form);
 }
 
