@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QImage>
 #include <QWidget>
 
 #include "vcl/qt/QtHost.h"
@@ -20,5 +21,9 @@ namespace vcl
 ///
 /// Asked again, it answers the same widget. Raises EInvalidOperation when Control has another parent.
 QWidget* WidgetOf(TWinControl* Control);
+
+/// A picture of a widget of the program with the controls embedded in it, at Scale device pixels a unit; the
+/// widget need not be on the screen.
+QImage PictureOf(QWidget* Widget, double Scale = 1.0);
 
 } // namespace vcl

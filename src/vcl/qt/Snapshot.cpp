@@ -12,6 +12,7 @@
 #include "vcl/platform/qt/QtConvert.h"
 #include "vcl/platform/qt/QtWindow.h"
 #include "vcl/platform/qt/QtWindowSystem.h"
+#include "vcl/qt/Bridge.h"
 
 namespace vcl
 {
@@ -99,6 +100,15 @@ QImage SnapshotImage(TWinControl& Control, double Scale)
 }
 
 } // namespace
+
+QImage PictureOf(QWidget* Widget, double Scale)
+{
+    Widget->ensurePolished();
+    QCoreApplication::sendPostedEvents();
+    QImage Image = Render(*Widget, Scale);
+    Image.setDevicePixelRatio(1.0);
+    return Image;
+}
 
 TDecodedImage Snapshot(TWinControl& Control, double Scale)
 {

@@ -60,9 +60,13 @@ bool TFrame::event(QEvent* Event)
         break;
     case QEvent::StyleChange:
         FWindow->Layout();
-        if (isWindow())
+        if (isWindow() || FWindow->IsEmbedded())
             WindowSystem().MetricsChanged();
         break;
+    case QEvent::ContextMenu:
+        // The menu key has been told with the other keys; no parent shall hear of it.
+        Event->accept();
+        return true;
     case QEvent::MouseButtonPress:
     case QEvent::MouseButtonRelease:
     case QEvent::MouseButtonDblClick:

@@ -23,6 +23,7 @@ public:
     void SetBounds(const TRect& Bounds) override;
     void SetScrollBar(TScrollBarKind Kind, const TScrollBarState& State) override;
     void RequestUpdate() override;
+    void DefaultMessage(TMessage& Message) override;
     void Present(const TRect& Rect) override;
     void Flush() override;
     void RenderTo(const TPixelBuffer& Target, TPoint Origin) override;
@@ -61,6 +62,7 @@ private:
     std::array<TScrollBarState, 2> FStates;
     QSize FSentSize{0, 0};
     QPoint FWheel;
+    bool FKeyCameBack = false;
     bool FUpdatePosted = false;
     bool FPainting = false;
 };

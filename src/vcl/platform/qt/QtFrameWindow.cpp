@@ -250,9 +250,7 @@ void TFrameWindow::PaintClient(QPainter& Painter, const QSize& Size)
         return;
     const TPixelBuffer Pixels = GetOwner()->WindowPixels();
     if (!Pixels.Pixels || Pixels.Width <= 0 || Pixels.Height <= 0) {
-        Painter.fillRect(QRect(QPoint(0, 0), Size), Painter.device()->devType() == QInternal::Widget
-                                                        ? FClient->palette().window()
-                                                        : QBrush(Qt::white));
+        Painter.fillRect(QRect(QPoint(0, 0), Size), FClient->palette().window());
         return;
     }
     QImage Image(reinterpret_cast<const uchar*>(Pixels.Pixels), Pixels.Width, Pixels.Height,
@@ -338,6 +336,7 @@ bool TFrameWindow::KeyEvent(QKeyEvent& Event)
         return true;
     }
     TMessage Message{Alt ? WM_SYSKEYDOWN : WM_KEYDOWN, Key, 0, 0};
+    FKeyCameBack = false;
     if (Key != 0 && (!Send(Message) || Message.Result == 1))
         return true;
     if (Key == VK_APPS) {
@@ -350,7 +349,13 @@ bool TFrameWindow::KeyEvent(QKeyEvent& Event)
             return true;
     }
     // Escape and Return that nobody used may still close a dialog of the surrounding program.
-    return !(Key == VK_ESCAPE || Key == VK_RETURN);
+    return !(FKeyCameBack && (Key == VK_ESCAPE || Key == VK_RETURN));
+}
+
+void TFrameWindow::DefaultMessage(TMessage& Message)
+{
+    if (Message.Msg == WM_KEYDOWN || Message.Msg == WM_SYSKEYDOWN)
+        FKeyCameBack = true;
 }
 
 } // namespace vcl::qt

@@ -9,6 +9,7 @@
 
 #include <algorithm>
 
+#include "vcl/platform/qt/QtAccessible.h"
 #include "vcl/platform/qt/QtClipboard.h"
 #include "vcl/platform/qt/QtConvert.h"
 #include "vcl/platform/qt/QtDialogs.h"
@@ -101,6 +102,7 @@ void TWindowSystem::Attach()
                          CheckLoops();
                      });
     qAddPostRoutine([] { WindowSystem().Detach(); });
+    InstallAccessibility();
     const std::lock_guard Lock(FContextMutex);
     FContext = std::move(Context);
 }

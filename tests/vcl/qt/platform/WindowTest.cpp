@@ -185,6 +185,31 @@ TEST_F(QtWindow, TabAndArrowsArriveLikeOtherKeysAndMoveNoFocus)
     EXPECT_EQ(Form.Count(WM_KEYDOWN), 0);
 }
 
+TEST_F(QtWindow, AnEscapeNobodyUsedIsLeftToTheSurroundings)
+{
+    Child.Window->SetFocus();
+    const auto Press = [&] {
+        QKeyEvent Event(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QApplication::sendEvent(Child.Widget(), &Event);
+        return Event.isAccepted();
+    };
+    EXPECT_FALSE(Press());
+    Child.OnMessage = [](TMessage& Message) { return Message.Msg == WM_KEYDOWN; };
+    EXPECT_TRUE(Press());
+    EXPECT_EQ(Form.Count(WM_KEYDOWN), 0);
+}
+
+TEST_F(QtWindow, TheMenuKeyAsksForAContextMenuOnce)
+{
+    Child.Window->SetFocus();
+    QTest::keyClick(Child.Widget(), Qt::Key_Menu);
+    QContextMenuEvent Event(QContextMenuEvent::Keyboard, QPoint(5, 5), QPoint(5, 5));
+    QApplication::sendEvent(Child.Widget(), &Event);
+    EXPECT_EQ(Child.Count(WM_CONTEXTMENU), 1);
+    EXPECT_EQ(Child.Last(WM_CONTEXTMENU).LParam, -1);
+    EXPECT_EQ(Form.Count(WM_CONTEXTMENU), 0);
+}
+
 TEST_F(QtWindow, WhatAnInputMethodCommitsArrivesAsCharacters)
 {
     Child.Window->SetFocus();
