@@ -1,9 +1,7 @@
 #include <png.h>
 
-#include <cmath>
-#include <cstdlib>
-
 #include "ksform/Files.h"
+#include "ksform/Options.h"
 #include "ksform/Verbs.h"
 #include "vcl/graphics/CanvasScript.h"
 #include "vcl/platform/System.h"
@@ -22,36 +20,14 @@ struct TOptions {
     double Scale = 1.0;
 };
 
-double ParseScale(const std::string& Text)
-{
-    char* End = nullptr;
-    const double Value = std::strtod(Text.c_str(), &End);
-    if (Text.empty() || *End != '\0' || !(Value >= TSurface::MinScale && Value <= TSurface::MaxScale))
-        throw EUsage(Text + " is not a scale");
-    return Value;
-}
-
 TOptions Parse(const TArguments& Arguments)
 {
     TOptions Result;
-    for (std::size_t Index = 0; Index < Arguments.size(); ++Index) {
-        const std::string& Argument = Arguments[Index];
-        const auto TakeValue = [&] {
-            if (++Index == Arguments.size())
-                throw EUsage(Argument + " needs a value");
-            return Arguments[Index];
-        };
-        if (Argument == "-o")
-            Result.Picture = TakeValue();
-        else if (Argument == "--scale")
-            Result.Scale = ParseScale(TakeValue());
-        else if (Argument.size() > 1 && Argument.front() == '-')
-            throw EUsage("there is no option " + Argument);
-        else if (Result.Script.empty())
-            Result.Script = Argument;
-        else
-            throw EUsage("one script at a time");
-    }
+    TOptionParser()
+        .Value("-o", [&](const std::string& Value) { Result.Picture = Value; })
+        .Value("--scale", [&](const std::string& Value) { Result.Scale = ParseScale(Value); })
+        .Single(Result.Script, "one script at a time")
+        .Parse(Arguments);
     if (Result.Script.empty() || Result.Picture.empty())
         throw EUsage("a script and -o PNG are needed");
     return Result;

@@ -1,6 +1,7 @@
 #include <algorithm>
 #include <cstdio>
 
+#include "ksform/Json.h"
 #include "ksform/Verbs.h"
 #include "vcl/classes/Component.h"
 
@@ -74,34 +75,16 @@ const char* StoredText(const TPropertyInfo& Row)
     return Row.IsStored == &NeverStoredRule ? "never" : "sometimes";
 }
 
-std::string Quoted(const std::string& Text)
-{
-    std::string Result = "\"";
-    for (const char Character : Text) {
-        const auto Code = static_cast<unsigned char>(Character);
-        if (Character == '"' || Character == '\\')
-            Result += '\\';
-        if (Code >= ' ')
-            Result += Character;
-        else {
-            char Escape[8];
-            std::snprintf(Escape, sizeof Escape, "\\u%04X", Code);
-            Result += Escape;
-        }
-    }
-    return Result + "\"";
-}
-
 std::string PropertyJson(const TPropertyInfo& Row)
 {
     const std::string Default = DefaultText(Row);
     const bool IsReadOnly =
         !Row.Set && Row.Type->Kind != TTypeKind::Method && Row.Type->Kind != TTypeKind::Class;
-    return "{\"name\": " + Quoted(Row.Name) + ", \"type\": " + Quoted(Row.Type->DisplayName()) +
-           ", \"kind\": " + Quoted(KindName(Row.Type->Kind)) +
-           ", \"default\": " + (Row.Default ? Quoted(Default) : "null") +
-           ", \"stored\": " + Quoted(StoredText(Row)) + ", \"readOnly\": " + (IsReadOnly ? "true" : "false") +
-           "}";
+    return "{\"name\": " + JsonString(Row.Name) + ", \"type\": " + JsonString(Row.Type->DisplayName()) +
+           ", \"kind\": " + JsonString(KindName(Row.Type->Kind)) +
+           ", \"default\": " + (Row.Default ? JsonString(Default) : "null") +
+           ", \"stored\": " + JsonString(StoredText(Row)) +
+           ", \"readOnly\": " + (IsReadOnly ? "true" : "false") + "}";
 }
 
 std::string ClassJson(const TClass& Class)
@@ -112,8 +95,8 @@ std::string ClassJson(const TClass& Class)
         std::string& List = Row->Type->Kind == TTypeKind::Method ? Events : Properties;
         List += (List.empty() ? "\n    " : ",\n    ") + PropertyJson(*Row);
     }
-    return "{\"class\": " + Quoted(Class.Name) +
-           ", \"parent\": " + Quoted(Class.Parent ? Class.Parent->Name : "") + ",\n  \"properties\": [" +
+    return "{\"class\": " + JsonString(Class.Name) +
+           ", \"parent\": " + JsonString(Class.Parent ? Class.Parent->Name : "") + ",\n  \"properties\": [" +
            Properties + "],\n  \"events\": [" + Events + "]}";
 }
 

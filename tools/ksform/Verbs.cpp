@@ -15,6 +15,8 @@ const std::vector<TVerb>& Verbs()
         {"list", "[CLASS] [--json]", "show classes with their properties and events", RunList},
         {"draw", "SCRIPT -o PNG [--scale S]", "run a script of canvas operations and save the picture",
          RunDraw},
+        {"render", "FORM -o PNG [--size WxH] [--scale S] [--dark]", "save a picture of a form", RunRender},
+        {"data", "FILE --as CLASS [--json]", "show what a collection's stream holds", RunData},
     };
     return Table;
 }

@@ -42,5 +42,7 @@ int RunConvert(const TArguments& Arguments);
 int RunCheck(const TArguments& Arguments);
 int RunList(const TArguments& Arguments);
 int RunDraw(const TArguments& Arguments);
+int RunRender(const TArguments& Arguments);
+int RunData(const TArguments& Arguments);
 
 } // namespace ksform

@@ -28,6 +28,14 @@ requires(!std::is_function_v<TMember>) struct TMemberOf<TMember TOwner::*> {
     using Value = TMember;
 };
 
+/// A descendant may bring a setter of its own for its ancestor's getter.
+template <class>
+struct TSetterOf;
+template <class TOwner, class TParameter>
+struct TSetterOf<void (TOwner::*)(TParameter)> {
+    using Owner = TOwner;
+};
+
 template <class T>
 concept IsEvent = std::is_base_of_v<TEventBase, T>;
 
@@ -149,7 +157,7 @@ template <auto Getter, auto Setter>
 void SetProperty(TPersistent& Object, const TPropertyValue& Value)
 {
     using TMember = TMemberOf<decltype(Getter)>;
-    using TOwner = typename TMember::Owner;
+    using TOwner = typename TSetterOf<decltype(Setter)>::Owner;
     (static_cast<TOwner&>(Object).*Setter)(FromValue<typename TMember::Value>(Value));
 }
 
