@@ -1,0 +1,246 @@
+#include "KSTreeView/CustomTreeView.h"
+
+#include <algorithm>
+
+#include "KSTreeView/TreeEdit.h"
+#include "KSTreeView/TreeViewHost.h"
+#include "KSTreeView/interaction/MouseSteps.h"
+#include "KSTreeView/model/Coalesced.h"
+#include "vcl/controls/Program.h"
+#include "vcl/graphics/ImageList.h"
+#include "vcl/platform/Platform.h"
+#include "vcl/platform/System.h"
+
+using vcl::TAliveGuard;
+
+namespace
+{
+
+constexpr int StartWidth = 121;
+constexpr int StartHeight = 97;
+constexpr int MinButtonSize = 2;
+constexpr int MaxButtonSize = 20;
+
+} // namespace
+
+TCustomKSTreeView::TCustomKSTreeView(vcl::TComponent* Owner)
+    : TCustomControl(Owner), FHost(std::make_unique<THost>(*this)),
+      FItems(vcl::New<TKSTreeNodes>(FHost.get())), FSelection(*FHost),
+      FHorzScrollBar(std::make_unique<TKSTVScrollBar>(this, vcl::TScrollBarKind::sbHorizontal)),
+      FVertScrollBar(std::make_unique<TKSTVScrollBar>(this, vcl::TScrollBarKind::sbVertical)),
+      FImagesLink(std::make_unique<vcl::TChangeLink>())
+{
+    FWidth = StartWidth;
+    FHeight = StartHeight;
+    SetColor(vcl::clWindow);
+    SetParentColor(false);
+    SetTabStop(true);
+    FHorzScrollBar->SetTracking(true);
+    FVertScrollBar->SetTracking(true);
+    FImagesLink->OnChange = [this](vcl::TObject*) { Invalidate(); };
+}
+
+TCustomKSTreeView::~TCustomKSTreeView()
+{
+    // Nodes reach the view while they go, so they go first; the virtual calls were made in BeforeDestruction.
+    FCoalescing = 1;
+    delete FItems;
+    if (FImages)
+        FImages->UnregisterChanges(FImagesLink.get());
+}
+
+void TCustomKSTreeView::BeforeDestruction()
+{
+    // Here what descendants override is still reached.
+    vcl::RunGuarded(this, [this] { HideNodeEditor(false); });
+    vcl::RunGuarded(this, [this] {
+        FItems->BeginUpdate();
+        FItems->Clear();
+    });
+    TCustomControl::BeforeDestruction();
+}
+
+TKSTreeNode* TCustomKSTreeView::CreateNode()
+{
+    return vcl::New<TKSTreeNode>(FItems);
+}
+
+void TCustomKSTreeView::SetBorderStyle(vcl::TBorderStyle Value)
+{
+    if (FBorderStyle == Value)
+        return;
+    FBorderStyle = Value;
+    RecreateWnd();
+}
+
+void TCustomKSTreeView::SetButtonSize(int Value)
+{
+    Change(FMetrics.ButtonSize, std::clamp(Value, MinButtonSize, MaxButtonSize));
+}
+
+void TCustomKSTreeView::SetImages(vcl::TCustomImageList* Value)
+{
+    if (FImages == Value)
+        return;
+    if (FImages) {
+        FImages->UnregisterChanges(FImagesLink.get());
+        RemoveFreeNotification(FImages);
+    }
+    FImages = Value;
+    if (FImages) {
+        FImages->RegisterChanges(FImagesLink.get());
+        FreeNotification(FImages);
+    }
+    Refresh();
+}
+
+void TCustomKSTreeView::Notification(vcl::TComponent* Component, vcl::TOperation Operation)
+{
+    TCustomControl::Notification(Component, Operation);
+    if (Operation != vcl::TOperation::opRemove || Component != FImages)
+        return;
+    FImages = nullptr;
+    Invalidate();
+}
+
+void TCustomKSTreeView::CreateParams(vcl::TCreateParams& Params)
+{
+    TCustomControl::CreateParams(Params);
+    if (FBorderStyle != vcl::TBorderStyle::bsSingle)
+        return;
+    if (vcl::Platform().System().NewStyleControls() && GetCtl3D())
+        Params.ExStyle |= vcl::WS_EX_CLIENTEDGE;
+    else
+        Params.Style |= vcl::WS_BORDER;
+}
+
+void TCustomKSTreeView::DestroyWnd()
+{
+    // Timers end with the window.
+    FEditPending = false;
+    FPanning = false;
+    TCustomControl::DestroyWnd();
+}
+
+void TCustomKSTreeView::RefreshNodes()
+{
+    if (FCoalescing > 0)
+        FRefreshDue = true;
+    else if (!Is(vcl::TComponentState::csDestroying))
+        Refresh();
+}
+
+bool TCustomKSTreeView::CanChange(TKSTreeNode* Node)
+{
+    bool Allow = true;
+    OnChanging(this, Node, Allow);
+    return Allow;
+}
+
+bool TCustomKSTreeView::CanExpand(TKSTreeNode* Node)
+{
+    bool Allow = true;
+    OnExpanding(this, Node, Allow);
+    return Allow;
+}
+
+bool TCustomKSTreeView::CanCollapse(TKSTreeNode* Node)
+{
+    bool Allow = true;
+    OnCollapsing(this, Node, Allow);
+    return Allow;
+}
+
+bool TCustomKSTreeView::CanEdit(TKSTreeNode* Node)
+{
+    bool Allow = true;
+    OnEditing(this, Node, Allow);
+    return Allow;
+}
+
+void TCustomKSTreeView::FullExpand()
+{
+    treeview::Coalesced(FHost.get(), FItems->GetLife(), treeview::ExpansionEvents, [this] {
+        treeview::TNodeRef Node(FItems->GetFirstNode());
+        while (Node) {
+            Node->Expand(true);
+            if (Node)
+                Node.Reset(Node->GetNextSibling());
+        }
+    });
+}
+
+void TCustomKSTreeView::FullCollapse()
+{
+    treeview::Coalesced(FHost.get(), FItems->GetLife(), treeview::ExpansionEvents, [this] {
+        treeview::TNodeRef Node(FItems->GetFirstNode());
+        while (Node) {
+            Node->Collapse(true);
+            if (Node)
+                Node.Reset(Node->GetNextSibling());
+        }
+    });
+}
+
+void TCustomKSTreeView::ScrollInView(TKSTreeNode* Node)
+{
+    if (!Node || !GetParent() || FItems->IsUpdating() || !Node->IsVisible())
+        return;
+    const vcl::TRect& Box = Node->GetRect();
+    const int DeltaX = treeview::ScrollDelta(Box.Left - FMetrics.HorzSpacing,
+                                             Box.Right + FMetrics.HorzSpacing, GetClientWidth());
+    const int DeltaY = treeview::ScrollDelta(Box.Top - FMetrics.VertSpacing,
+                                             Box.Bottom + FMetrics.VertSpacing, GetClientHeight());
+    FHorzScrollBar->ScrollBy(DeltaX);
+    FVertScrollBar->ScrollBy(DeltaY);
+}
+
+void TCustomKSTreeView::LoadFromStream(vcl::TStream& Stream)
+{
+    FItems->ReadText(Stream);
+}
+
+void TCustomKSTreeView::SaveToStream(vcl::TStream& Stream)
+{
+    FItems->WriteText(Stream);
+}
+
+void TCustomKSTreeView::LoadFromFile(const vcl::AnsiString& FileName)
+{
+    vcl::TFileStream Stream(FileName, vcl::fmOpenRead);
+    LoadFromStream(Stream);
+}
+
+void TCustomKSTreeView::SaveToFile(const vcl::AnsiString& FileName)
+{
+    vcl::TFileStream Stream(FileName, vcl::fmCreate);
+    SaveToStream(Stream);
+}
+
+void TCustomKSTreeView::UpdateScrollBars()
+{
+    if (FScrollUpdating)
+        return;
+    FScrollUpdating = true;
+    const TAliveGuard Guard(*this);
+    const auto Update = [&](TKSTVScrollBar& Bar, bool ControlSB, bool AssumeSB) {
+        if (Guard.IsAlive())
+            Bar.Update(ControlSB, AssumeSB);
+    };
+    if (FVertScrollBar->NeedsScrollBarVisible()) {
+        Update(*FHorzScrollBar, false, true);
+        Update(*FVertScrollBar, true, false);
+    } else {
+        Update(*FVertScrollBar, false, FHorzScrollBar->NeedsScrollBarVisible());
+        Update(*FHorzScrollBar, true, false);
+    }
+    if (Guard.IsAlive())
+        FScrollUpdating = false;
+}
+
+void TCustomKSTreeView::ContentsMoved(int DeltaX, int DeltaY)
+{
+    ScrollBy(DeltaX, DeltaY);
+    // Hit tests agree with what the pixels show.
+    FChart.Shift(*FItems, DeltaX, DeltaY);
+}
