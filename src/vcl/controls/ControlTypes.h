@@ -67,10 +67,6 @@ enum class TControlStateFlag {
     csClicked,
     csReadingState,
     csAlignmentNeeded,
-    csFocusing,
-    csCreating,
-    csPaintCopy,
-    csDestroyingHandle,
 };
 using TControlState = TSet<TControlStateFlag>;
 

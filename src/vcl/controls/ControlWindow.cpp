@@ -34,10 +34,21 @@ unsigned NotificationOfKey(unsigned Msg)
 
 } // namespace
 
+template <class TAction>
+void TControlWindow::Run(TAction&& Action) noexcept
+{
+    // The control may be freed on the way, and this object with it: nothing of it is used afterwards.
+    const TWeak<TWinControl> Sender = &FControl;
+    try {
+        Action();
+    } catch (...) {
+        Program().HandleException(Sender.Get());
+    }
+}
+
 void TControlWindow::WindowMessage(TMessage& Message) noexcept
 {
-    // The control may be freed on the way; nothing of this object is used after Handle.
-    RunGuarded(&FControl, [this, &Message] { Handle(Message); });
+    Run([this, &Message] { Handle(Message); });
 }
 
 void TControlWindow::Handle(TMessage& Message)
@@ -98,7 +109,7 @@ void TControlWindow::FollowMouse(const TMessage& Message)
 
 void TControlWindow::WindowUpdate() noexcept
 {
-    RunGuarded(&FControl, [this] { FControl.Update(); });
+    Run([this] { FControl.Update(); });
 }
 
 TPixelBuffer TControlWindow::WindowPixels() noexcept
@@ -108,7 +119,7 @@ TPixelBuffer TControlWindow::WindowPixels() noexcept
 
 void TControlWindow::WindowScaleChanged() noexcept
 {
-    RunGuarded(&FControl, [this] {
+    Run([this] {
         FControl.FClient->Resize();
         FControl.Invalidate();
     });
@@ -116,7 +127,7 @@ void TControlWindow::WindowScaleChanged() noexcept
 
 void TControlWindow::WindowDestroyed() noexcept
 {
-    RunGuarded(&FControl, [this] { FControl.WindowGone(); });
+    Run([this] { FControl.WindowGone(); });
 }
 
 } // namespace vcl

@@ -23,6 +23,8 @@ public:
     void WindowDestroyed() noexcept override;
 
 private:
+    template <class TAction>
+    void Run(TAction&& Action) noexcept;
     void Handle(TMessage& Message);
     void Scroll(TMessage& Message);
     bool BeforeKey(TMessage& Message);

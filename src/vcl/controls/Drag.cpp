@@ -198,7 +198,7 @@ void TDragSession::Forget()
         MouseTracker().SetCapture(nullptr);
 }
 
-bool TDragSession::Handle(TWinControl& Window, const TMessage& Message)
+bool TDragSession::Handle(TWinControl& Window, TMessage& Message)
 {
     if (!IsActive())
         return false;
@@ -219,6 +219,7 @@ bool TDragSession::Handle(TWinControl& Window, const TMessage& Message)
     case WM_KEYDOWN:
         if (Message.WParam != VK_ESCAPE)
             return false;
+        Message.Result = 1; // no character follows
         End(false);
         return true;
     case WM_CAPTURECHANGED:

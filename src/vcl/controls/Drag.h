@@ -62,7 +62,7 @@ public:
     /// Drops on what accepts, or cancels.
     void End(bool Drop);
     /// A message for any window while a drag is under way; true: it was the drag's.
-    bool Handle(TWinControl& Window, const TMessage& Message);
+    bool Handle(TWinControl& Window, TMessage& Message);
 
 private:
     void Start();

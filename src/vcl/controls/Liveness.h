@@ -39,6 +39,30 @@ private:
     std::shared_ptr<bool> FAlive;
 };
 
+/// Sets a flag of an object for the length of a block, also when the block ends with an exception or with the
+/// object's end.
+class TFlagScope
+{
+public:
+    template <class T>
+    TFlagScope(const T& Object, bool& Flag) : FGuard(Object), FFlag(Flag), FBefore(Flag)
+    {
+        FFlag = true;
+    }
+    ~TFlagScope()
+    {
+        if (FGuard.IsAlive())
+            FFlag = FBefore;
+    }
+    TFlagScope(const TFlagScope&) = delete;
+    TFlagScope& operator=(const TFlagScope&) = delete;
+
+private:
+    TAliveGuard FGuard;
+    bool& FFlag;
+    bool FBefore;
+};
+
 /// A reference that turns into null when its object dies.
 template <class T>
 class TWeak

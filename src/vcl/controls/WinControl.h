@@ -250,6 +250,7 @@ private:
     bool DispatchKey(TMessage& Message);
     void CNKeyDown(TMessage& Message);
     void CNChar(TMessage& Message);
+    void SysChar(TMessage& Message);
     bool RouteMouse(TMessage& Message);
     void ApplyScrollBars(bool Always = false);
     void ScrollBarsChanged();

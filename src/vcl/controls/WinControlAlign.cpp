@@ -99,10 +99,8 @@ void TWinControl::AlignAnchored(TSize Client)
         TRect Place;
         Control->ParentResized(Client, Place);
         // The distances it keeps are those before this move, else rounding would add up.
-        Control->FAnchorMove = true;
+        const TFlagScope Moving(*Control, Control->FAnchorMove);
         Control->SetBoundsRect(Place);
-        if (Child.Get())
-            Control->FAnchorMove = false;
     }
 }
 
@@ -115,7 +113,7 @@ void TWinControl::AlignControls(TControl* Control)
         return;
     }
     TAliveGuard Guard(*this);
-    FAligning = true;
+    const TFlagScope Aligning(*this, FAligning);
     FControlState.Exclude(TControlStateFlag::csAlignmentNeeded);
     const TRect Client = GetClientRect();
     TRect Rest = Client;
@@ -127,8 +125,6 @@ void TWinControl::AlignControls(TControl* Control)
             return;
     }
     AlignAnchored({Client.Width(), Client.Height()});
-    if (Guard.IsAlive())
-        FAligning = false;
 }
 
 void TWinControl::EnableAlign()

@@ -61,8 +61,6 @@ void TWinControl::WndProc(TMessage& Message)
         if ((Site && !Site->SetFocusedControl(this)) || !Guard.IsAlive())
             return;
     }
-    if (Message.Msg == WM_KILLFOCUS && FControlState.Contains(TControlStateFlag::csFocusing))
-        return;
     if (IsMouse(Message.Msg) && RouteMouse(Message))
         return;
     TControl::WndProc(Message);
@@ -205,6 +203,9 @@ bool TWinControl::DispatchKey(TMessage& Message)
         if (!DoKeyPress(Message))
             DefaultHandler(Message);
         return true;
+    case WM_SYSCHAR:
+        SysChar(Message);
+        return true;
     default:
         return false;
     }
@@ -242,6 +243,17 @@ void TWinControl::CNChar(TMessage& Message)
     if (!Wanted && Site && Site->SiteControl().Perform(CM_DIALOGCHAR, Message.WParam) != 0)
         return;
     Message.Result = 0;
+}
+
+void TWinControl::SysChar(TMessage& Message)
+{
+    // With Alt a character is an access key even to a control that writes.
+    TAliveGuard Guard(*this);
+    IFormSite* const Site = GetFormSiteOf(this);
+    if (Site && Site->SiteControl().Perform(CM_DIALOGCHAR, Message.WParam) != 0)
+        Message.Result = 1;
+    else if (Guard.IsAlive())
+        DefaultHandler(Message);
 }
 
 namespace

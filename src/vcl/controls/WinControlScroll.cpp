@@ -73,18 +73,13 @@ void TWinControl::ScrollBy(int DeltaX, int DeltaY)
     if (!FHandle || (DeltaX == 0 && DeltaY == 0))
         return;
     FClient->Scroll(DeltaX, DeltaY);
-    TAliveGuard Guard(*this);
-    const bool WasAligning = FAligning;
-    FAligning = true;
+    const TFlagScope Aligning(*this, FAligning);
     std::vector<TWeak<TControl>> Children;
     for (int Index = 0; Index < GetControlCount(); ++Index)
         Children.emplace_back(GetControl(Index));
     for (const TWeak<TControl>& Child : Children)
         if (TControl* const Control = Child.Get())
             Control->MoveWithContents(DeltaX, DeltaY);
-    if (!Guard.IsAlive())
-        return;
-    FAligning = WasAligning;
 }
 
 } // namespace vcl

@@ -56,17 +56,7 @@ IWindow* TWinControl::GetHandle()
 
 void TWinControl::CreateHandle()
 {
-    FControlState.Include(TControlStateFlag::csCreating);
-    TAliveGuard Guard(*this);
-    try {
-        CreateWnd();
-    } catch (...) {
-        if (Guard.IsAlive())
-            FControlState.Exclude(TControlStateFlag::csCreating);
-        throw;
-    }
-    if (Guard.IsAlive())
-        FControlState.Exclude(TControlStateFlag::csCreating);
+    CreateWnd();
 }
 
 void TWinControl::CreateWnd()
@@ -119,9 +109,7 @@ void TWinControl::DestroyHandle()
 
 void TWinControl::DestroyWnd()
 {
-    FControlState.Include(TControlStateFlag::csDestroyingHandle);
     Perform(WM_DESTROY);
-    FControlState.Exclude(TControlStateFlag::csDestroyingHandle);
     LoseHandle();
 }
 

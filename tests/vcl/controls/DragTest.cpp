@@ -89,9 +89,11 @@ TEST_F(TDragTest, EscapeCancels)
     FSource.BeginDrag(true);
     Windows().MouseMove(WindowOf(FTarget), {10, 10});
     FEvents.clear();
+    FSource.TakeNotes();
     Windows().KeyPress(VK_ESCAPE);
     EXPECT_THAT(FEvents, ElementsAre("leave source 10,10", "end none 10,10"));
     EXPECT_FALSE(FSource.Dragging());
+    EXPECT_THAT(FSource.TakeNotes(), ElementsAre("KeyUp 27")) << "the key is the drag's alone";
 }
 
 TEST_F(TDragTest, AThresholdKeepsASmallMoveAClick)

@@ -167,6 +167,18 @@ TEST_F(TControlTest, AlignmentWaitsWhileDisabled)
     EXPECT_EQ(Top.GetWidth(), 400);
 }
 
+TEST_F(TControlTest, AnErrorInAResizeHandlerDoesNotEndAligning)
+{
+    TProbe& Top = Add<TProbe>(5, 5, 10, 20);
+    Top.SetAlign(TAlign::alTop);
+    ShowForm();
+    Top.OnResize = [](TObject*) { throw Exception("no resize"); };
+    EXPECT_THROW(Form().SetClientSize({500, 300}), Exception);
+    Top.OnResize = nullptr;
+    Form().SetClientSize({600, 300});
+    EXPECT_EQ(Top.GetWidth(), 600);
+}
+
 TEST_F(TControlTest, ScalingKeepsNeighboursTouching)
 {
     TProbe& Left = Add<TProbe>(0, 0, 33, 21);

@@ -20,6 +20,7 @@ TEST_P(TFreeingTest, AHandlerMayFreeTheControl)
 {
     TProbe* Probe = &AddProbe();
     Probe->SetBars(true, true);
+    Add<TProbe>(300, 200, 10, 10).SetTabOrder(0);
     ShowForm();
     bool IsFreed = false;
     Probe->When(GetParam(), [&] {
@@ -68,7 +69,7 @@ TEST_P(TFreeingTest, AHandlerMayFreeTheControl)
 INSTANTIATE_TEST_SUITE_P(Places, TFreeingTest,
                          ::testing::Values("MouseEnter", "MouseMove", "MouseDown", "Click", "DblClick",
                                            "MouseUp", "MouseLeave", "KeyDown", "KeyPress", "KeyUp", "VScroll",
-                                           "HScroll", "Timer", "Size", "Resize", "Paint", "Exit"),
+                                           "HScroll", "Timer", "Size", "Resize", "Paint", "Exit", "Enter"),
                          [](const auto& Info) { return std::string(Info.param); });
 
 TEST_F(TControlTest, EventHandlersMayFreeTheirControl)
@@ -113,9 +114,21 @@ TEST_F(TControlTest, AnExceptionInAHandlerEndsAtTheApplication)
     ShowForm();
     Probe.OnClick = [](TObject*) { throw Exception("from a click"); };
     Windows().MouseClick(WindowOf(Probe), {5, 5});
-    Probe.OnKeyDown = [](TObject*, std::uint16_t&, TShiftState) { throw 5; };
-    Probe.SetFocus();
     EXPECT_THAT(FErrors, ElementsAre("from a click"));
+}
+
+TEST_F(TControlTest, AnExceptionOfAHandlerThatFreedItsControlHasNoSender)
+{
+    TProbe* const Probe = &AddProbe();
+    ShowForm();
+    TObject* Sender = Probe;
+    Application().OnException = [&](TObject* From, const std::exception&) { Sender = From; };
+    Probe->OnClick = [Probe](TObject*) {
+        delete Probe;
+        throw Exception("last words");
+    };
+    Windows().MouseClick(WindowOf(*Probe), {5, 5});
+    EXPECT_EQ(Sender, nullptr);
 }
 
 TEST_F(TControlTest, AnAbortIsSilent)

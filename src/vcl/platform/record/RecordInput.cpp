@@ -133,7 +133,7 @@ void TWindowSystem::CharOf(std::uint16_t Key)
     else if (IsLetter && !(FKeyFlags & MK_SHIFT))
         Char = Key - 'A' + std::uint64_t{'a'};
     if (FFocused)
-        FFocused->Send(WM_CHAR, Char);
+        FFocused->Send(FKeyFlags & MK_ALT ? WM_SYSCHAR : WM_CHAR, Char);
 }
 
 void TWindowSystem::KeyPress(std::uint16_t Key, unsigned Modifiers)
@@ -142,7 +142,7 @@ void TWindowSystem::KeyPress(std::uint16_t Key, unsigned Modifiers)
     FKeyFlags = Modifiers;
     const bool IsSystem = (Modifiers & MK_ALT) != 0;
     if (FFocused && AcceptsInput(*FFocused) &&
-        FFocused->Send(IsSystem ? WM_SYSKEYDOWN : WM_KEYDOWN, Key) != 1 && !IsSystem)
+        FFocused->Send(IsSystem ? WM_SYSKEYDOWN : WM_KEYDOWN, Key) != 1)
         CharOf(Key);
     if (FFocused)
         FFocused->Send(IsSystem ? WM_SYSKEYUP : WM_KEYUP, Key);
