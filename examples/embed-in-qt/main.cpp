@@ -59,13 +59,20 @@ QWidget* MakeSurroundings(TKSTimeView& View)
     return Halves;
 }
 
+/// What stands behind an option of the command line; empty when it is not given.
+QString ValueOf(const char* Option)
+{
+    const QStringList Options = QApplication::arguments();
+    const qsizetype Place = Options.indexOf(QLatin1String(Option));
+    return Place >= 0 && Place + 1 < Options.size() ? Options[Place + 1] : QString();
+}
+
 } // namespace
 
 int main(int Count, char** Arguments)
 {
     QApplication Program(Count, Arguments);
-    const QStringList Options = QApplication::arguments();
-    if (Options.contains("--dark"))
+    if (QApplication::arguments().contains("--dark"))
         vcl::qt::UseDarkLook();
     const vcl::TDate Today = vcl::Date();
     const auto View = MakeTimeView(Today - (vcl::DayOfWeek(Today) + 5) % 7);
@@ -73,8 +80,10 @@ int main(int Count, char** Arguments)
     Window.setWindowTitle(QObject::tr("A week in a window of widgets"));
     Window.setCentralWidget(MakeSurroundings(*View));
     Window.resize(1000, 560);
-    if (const qsizetype Place = Options.indexOf("--screenshot"); Place >= 0 && Place + 1 < Options.size())
-        return vcl::PictureOf(&Window).save(Options[Place + 1]) ? 0 : 1;
+    if (const QString File = ValueOf("--screenshot"); !File.isEmpty()) {
+        const double Scale = ValueOf("--scale").toDouble();
+        return vcl::PictureOf(&Window, Scale > 0 ? Scale : 1.0).save(File) ? 0 : 1;
+    }
     Window.show();
     return QApplication::exec();
 }

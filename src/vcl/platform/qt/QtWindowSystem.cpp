@@ -119,6 +119,8 @@ void TWindowSystem::Detach()
     FTimers.clear();
     for (TLoop* Loop : FLoops)
         Loop->Quit();
+    // No event loop comes any more for what waits for its deletion.
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     {
         const std::lock_guard Lock(FContextMutex);
         FContext.reset();
