@@ -35,8 +35,16 @@ const TClass& TOwnedCollection::StaticClass()
 
 TCollectionItem::TCollectionItem(TCollection* Collection)
 {
+    // An owner that looks at the items must not see one without its fields: AfterConstruction tells of it.
     if (Collection)
         Collection->InsertItem(this);
+}
+
+void TCollectionItem::AfterConstruction()
+{
+    TPersistent::AfterConstruction();
+    if (FCollection)
+        FCollection->Changed();
 }
 
 TCollectionItem::~TCollectionItem()
@@ -53,8 +61,10 @@ void TCollectionItem::SetCollection(TCollection* Collection)
         throw EInvalidOperation("A " + ClassName() + " does not fit into this collection");
     if (FCollection)
         FCollection->RemoveItem(this);
-    if (Collection)
-        Collection->InsertItem(this);
+    if (!Collection)
+        return;
+    Collection->InsertItem(this);
+    Collection->Changed();
 }
 
 int TCollectionItem::GetIndex() const
@@ -201,7 +211,6 @@ void TCollection::InsertItem(TCollectionItem* Item)
     Item->FCollection = this;
     Item->FID = FNextID++;
     Notify(Item, TCollectionNotification::cnAdded);
-    Changed();
 }
 
 void TCollection::RemoveItem(TCollectionItem* Item)

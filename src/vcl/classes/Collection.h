@@ -30,6 +30,8 @@ public:
     virtual AnsiString GetDisplayName() const { return ClassName(); }
     TPersistent* GetOwner() const override;
     AnsiString GetNamePath() const override;
+    /// Tells the collection of the finished item.
+    void AfterConstruction() override;
 
 protected:
     /// Tells the collection that this item, or with AllItems the arrangement of all, has changed.

@@ -1,6 +1,7 @@
 #include "vcl/controls/Button.h"
 
 #include "vcl/controls/Label.h"
+#include "vcl/platform/Platform.h"
 #include "vcl/platform/VirtualKeys.h"
 
 namespace vcl
@@ -17,6 +18,9 @@ const TClass& TButton::StaticClass()
             Publish("Caption"),
             Publish("Constraints"),
             Published<&TButton::GetDefault, &TButton::SetDefault>("Default").Default(false),
+            Publish("DragCursor"),
+            Publish("DragKind"),
+            Publish("DragMode"),
             Publish("Enabled"),
             Publish("Font"),
             Published<&TButton::GetModalResult, &TButton::SetModalResult>("ModalResult").Default(0),
@@ -29,6 +33,10 @@ const TClass& TButton::StaticClass()
             Publish("TabStop").Default(true),
             Publish("Visible"),
             Publish("OnClick"),
+            Publish("OnDragDrop"),
+            Publish("OnDragOver"),
+            Publish("OnEndDock"),
+            Publish("OnEndDrag"),
             Publish("OnEnter"),
             Publish("OnExit"),
             Publish("OnKeyDown"),
@@ -37,6 +45,8 @@ const TClass& TButton::StaticClass()
             Publish("OnMouseDown"),
             Publish("OnMouseMove"),
             Publish("OnMouseUp"),
+            Publish("OnStartDock"),
+            Publish("OnStartDrag"),
         });
     return Class;
 }
@@ -51,8 +61,20 @@ TButton::TButton(TComponent* Owner) : TPeerControl(Owner, TWindowKind::Button, {
 void TButton::SetDefault(bool Value)
 {
     FDefault = Value;
+    ShowActive();
+}
+
+bool TButton::IsActive() const
+{
+    IFormSite* const Site = GetFormSiteOf(const_cast<TButton*>(this));
+    const TWinControl* const Active = Site ? Site->GetActiveControl() : nullptr;
+    return As<TButton>(Active) ? Active == this : FDefault;
+}
+
+void TButton::ShowActive()
+{
     if (Peer())
-        Peer()->Button()->SetDefault(Value);
+        Peer()->Button()->SetDefault(IsActive());
 }
 
 void TButton::Click()
@@ -66,7 +88,7 @@ void TButton::Click()
 
 void TButton::ApplyState()
 {
-    Peer()->Button()->SetDefault(FDefault);
+    ShowActive();
 }
 
 void TButton::PeerNotice(TPeerNotice Notice, std::int64_t)
@@ -77,14 +99,22 @@ void TButton::PeerNotice(TPeerNotice Notice, std::int64_t)
 
 void TButton::CMDialogKey(TMessage& Message)
 {
+    constexpr unsigned Modifiers = MK_SHIFT | MK_CONTROL | MK_ALT;
+    const bool IsPlain = (Platform().Windows().GetKeyFlags() & Modifiers) == 0;
     const bool Wanted =
-        (Message.WParam == VK_RETURN && (FDefault || Focused())) || (Message.WParam == VK_ESCAPE && FCancel);
-    if (Wanted && CanFocus()) {
+        (Message.WParam == VK_RETURN && IsActive()) || (Message.WParam == VK_ESCAPE && FCancel);
+    if (Wanted && IsPlain && CanFocus()) {
         Message.Result = 1;
         Click();
         return;
     }
     TPeerControl::CMDialogKey(Message);
+}
+
+void TButton::CMFocusChanged(TMessage& Message)
+{
+    TPeerControl::CMFocusChanged(Message);
+    ShowActive();
 }
 
 void TButton::CMDialogChar(TMessage& Message)

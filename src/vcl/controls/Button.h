@@ -17,6 +17,8 @@ public:
     void SetCancel(bool Value) { FCancel = Value; }
     bool GetDefault() const { return FDefault; }
     void SetDefault(bool Value);
+    /// True while Return presses the button: it has the focus, or it is Default and no button has it.
+    bool IsActive() const;
     int GetModalResult() const { return FModalResult; }
     void SetModalResult(int Value) { FModalResult = Value; }
 
@@ -27,8 +29,11 @@ protected:
     void PeerNotice(TPeerNotice Notice, std::int64_t Index) override;
     void CMDialogKey(TMessage& Message) override;
     void CMDialogChar(TMessage& Message) override;
+    void CMFocusChanged(TMessage& Message) override;
 
 private:
+    void ShowActive();
+
     int FModalResult = 0;
     bool FCancel = false;
     bool FDefault = false;

@@ -42,19 +42,31 @@ const TTypeInfo& TypeTraits<TCheckBoxState>::Info()
     return Type;
 }
 
+const TTypeInfo& TypeTraits<TLeftRight>::Info()
+{
+    static const TTypeInfo Type = EnumerationType("TLeftRight", {"taLeftJustify", "taRightJustify"});
+    return Type;
+}
+
 const TClass& TCheckBox::StaticClass()
 {
     static const TClass Class = DefineClass<TCheckBox, TPeerControl>(
         "TCheckBox",
         {
+            Published<&TCheckBox::GetAlignment, &TCheckBox::SetAlignment>("Alignment")
+                .Default(TLeftRight::taRightJustify),
             Published<&TCheckBox::GetAllowGrayed, &TCheckBox::SetAllowGrayed>("AllowGrayed").Default(false),
             Publish("Anchors"),
             Publish("BiDiMode"),
             Publish("Caption"),
-            Published<&TCheckBox::GetChecked, &TCheckBox::SetChecked>("Checked").Default(false).NeverStored(),
-            Publish("Color"),
+            Published<&TCheckBox::GetChecked, &TCheckBox::SetChecked>("Checked").Default(false),
+            // What the parent gives it may be anything, so an own colour is always written.
+            Publish("Color").NoDefault(),
             Publish("Constraints"),
             Publish("Ctl3D"),
+            Publish("DragCursor"),
+            Publish("DragKind"),
+            Publish("DragMode"),
             Publish("Enabled"),
             Publish("Font"),
             Publish("ParentBiDiMode"),
@@ -70,11 +82,20 @@ const TClass& TCheckBox::StaticClass()
             Publish("TabStop").Default(true),
             Publish("Visible"),
             Publish("OnClick"),
+            Publish("OnDragDrop"),
+            Publish("OnDragOver"),
+            Publish("OnEndDock"),
+            Publish("OnEndDrag"),
             Publish("OnEnter"),
             Publish("OnExit"),
             Publish("OnKeyDown"),
             Publish("OnKeyPress"),
             Publish("OnKeyUp"),
+            Publish("OnMouseDown"),
+            Publish("OnMouseMove"),
+            Publish("OnMouseUp"),
+            Publish("OnStartDock"),
+            Publish("OnStartDrag"),
         });
     return Class;
 }
@@ -83,6 +104,21 @@ TCheckBox::TCheckBox(TComponent* Owner) : TPeerControl(Owner, TWindowKind::Check
 {
     FControlStyle.Exclude(TControlStyleFlag::csClickEvents);
     SetTabStop(true);
+}
+
+void TCheckBox::CreateParams(TCreateParams& Params)
+{
+    TPeerControl::CreateParams(Params);
+    if (FAlignment == TLeftRight::taLeftJustify)
+        Params.ExStyle ^= WS_EX_RIGHT;
+}
+
+void TCheckBox::SetAlignment(TLeftRight Value)
+{
+    if (FAlignment == Value)
+        return;
+    FAlignment = Value;
+    RecreateWnd();
 }
 
 void TCheckBox::SetAllowGrayed(bool Value)
@@ -111,18 +147,32 @@ void TCheckBox::ApplyState()
 
 void TCheckBox::PeerNotice(TPeerNotice Notice, std::int64_t)
 {
-    if (Notice != TPeerNotice::Clicked)
+    if (Notice != TPeerNotice::Clicked || !Peer())
         return;
     FState = BoxState(Peer()->Button()->GetCheckState());
     Click();
+}
+
+void TCheckBox::Toggle()
+{
+    switch (FState) {
+    case TCheckBoxState::cbUnchecked:
+        return SetState(FAllowGrayed ? TCheckBoxState::cbGrayed : TCheckBoxState::cbChecked);
+    case TCheckBoxState::cbChecked:
+        return SetState(TCheckBoxState::cbUnchecked);
+    case TCheckBoxState::cbGrayed:
+        return SetState(TCheckBoxState::cbChecked);
+    }
 }
 
 void TCheckBox::CMDialogChar(TMessage& Message)
 {
     if (IsAccel(static_cast<char32_t>(Message.WParam), GetCaption()) && CanFocus()) {
         Message.Result = 1;
+        TAliveGuard Guard(*this);
         SetFocus();
-        SetChecked(!GetChecked());
+        if (Guard.IsAlive() && Focused())
+            Toggle();
         return;
     }
     TPeerControl::CMDialogChar(Message);

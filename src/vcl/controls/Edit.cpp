@@ -1,5 +1,7 @@
 #include "vcl/controls/Edit.h"
 
+#include "vcl/controls/CharacterCase.h"
+
 namespace vcl
 {
 
@@ -21,6 +23,13 @@ std::size_t BytesOf(const AnsiString& Text, int Count)
 
 } // namespace
 
+const TTypeInfo& TypeTraits<TEditCharCase>::Info()
+{
+    static const TTypeInfo Type =
+        EnumerationType("TEditCharCase", {"ecNormal", "ecUpperCase", "ecLowerCase"});
+    return Type;
+}
+
 const TClass& TCustomEdit::StaticClass()
 {
     static const TClass Class = DefineClass<TCustomEdit, TPeerControl>(
@@ -30,6 +39,13 @@ const TClass& TCustomEdit::StaticClass()
                          .Default(true)),
             Declared(Published<&TCustomEdit::GetBorderStyle, &TCustomEdit::SetBorderStyle>("BorderStyle")
                          .Default(TBorderStyle::bsSingle)),
+            Declared(Published<&TCustomEdit::GetCharCase, &TCustomEdit::SetCharCase>("CharCase")
+                         .Default(TEditCharCase::ecNormal)),
+            Declared(
+                Published<&TCustomEdit::GetHideSelection, &TCustomEdit::SetHideSelection>("HideSelection")
+                    .Default(true)),
+            Declared(Published<&TCustomEdit::GetOEMConvert, &TCustomEdit::SetOEMConvert>("OEMConvert")
+                         .Default(false)),
             Declared(
                 Published<&TCustomEdit::GetMaxLength, &TCustomEdit::SetMaxLength>("MaxLength").Default(0)),
             Declared(Published<&TCustomEdit::GetPasswordChar, &TCustomEdit::SetPasswordChar>("PasswordChar")
@@ -44,45 +60,27 @@ const TClass& TCustomEdit::StaticClass()
 
 const TClass& TEdit::StaticClass()
 {
-    static const TClass Class =
-        DefineClass<TEdit, TCustomEdit>("TEdit", {
-                                                     Publish("Anchors"),
-                                                     Publish("AutoSelect"),
-                                                     Publish("BiDiMode"),
-                                                     Publish("BorderStyle"),
-                                                     Publish("Color"),
-                                                     Publish("Constraints"),
-                                                     Publish("Ctl3D"),
-                                                     Publish("Enabled"),
-                                                     Publish("Font"),
-                                                     Publish("ImeMode"),
-                                                     Publish("ImeName"),
-                                                     Publish("MaxLength"),
-                                                     Publish("ParentBiDiMode"),
-                                                     Publish("ParentColor").Default(false),
-                                                     Publish("ParentCtl3D"),
-                                                     Publish("ParentFont"),
-                                                     Publish("ParentShowHint"),
-                                                     Publish("PasswordChar"),
-                                                     Publish("PopupMenu"),
-                                                     Publish("ReadOnly"),
-                                                     Publish("ShowHint"),
-                                                     Publish("TabOrder"),
-                                                     Publish("TabStop").Default(true),
-                                                     Publish("Text"),
-                                                     Publish("Visible"),
-                                                     Publish("OnChange"),
-                                                     Publish("OnClick"),
-                                                     Publish("OnDblClick"),
-                                                     Publish("OnEnter"),
-                                                     Publish("OnExit"),
-                                                     Publish("OnKeyDown"),
-                                                     Publish("OnKeyPress"),
-                                                     Publish("OnKeyUp"),
-                                                     Publish("OnMouseDown"),
-                                                     Publish("OnMouseMove"),
-                                                     Publish("OnMouseUp"),
-                                                 });
+    static const TClass Class = DefineClass<TEdit, TCustomEdit>(
+        "TEdit",
+        {
+            Publish("Anchors"),      Publish("AutoSelect"),     Publish("AutoSize").Default(true),
+            Publish("BiDiMode"),     Publish("BorderStyle"),    Publish("CharCase"),
+            Publish("Color"),        Publish("Constraints"),    Publish("Ctl3D"),
+            Publish("DragCursor"),   Publish("DragKind"),       Publish("DragMode"),
+            Publish("Enabled"),      Publish("Font"),           Publish("HideSelection"),
+            Publish("ImeMode"),      Publish("ImeName"),        Publish("MaxLength"),
+            Publish("OEMConvert"),   Publish("ParentBiDiMode"), Publish("ParentColor").Default(false),
+            Publish("ParentCtl3D"),  Publish("ParentFont"),     Publish("ParentShowHint"),
+            Publish("PasswordChar"), Publish("PopupMenu"),      Publish("ReadOnly"),
+            Publish("ShowHint"),     Publish("TabOrder"),       Publish("TabStop").Default(true),
+            Publish("Text"),         Publish("Visible"),        Publish("OnChange"),
+            Publish("OnClick"),      Publish("OnDblClick"),     Publish("OnDragDrop"),
+            Publish("OnDragOver"),   Publish("OnEndDock"),      Publish("OnEndDrag"),
+            Publish("OnEnter"),      Publish("OnExit"),         Publish("OnKeyDown"),
+            Publish("OnKeyPress"),   Publish("OnKeyUp"),        Publish("OnMouseDown"),
+            Publish("OnMouseMove"),  Publish("OnMouseUp"),      Publish("OnStartDock"),
+            Publish("OnStartDrag"),
+        });
     return Class;
 }
 
@@ -94,6 +92,7 @@ TCustomEdit::TCustomEdit(TComponent* Owner, TWindowKind Kind) : TPeerControl(Own
 {
     SetTabStop(true);
     SetParentColor(false);
+    SetAutoSize(true);
 }
 
 void TCustomEdit::CreateParams(TCreateParams& Params)
@@ -105,6 +104,8 @@ void TCustomEdit::CreateParams(TCreateParams& Params)
         else
             Params.Style |= WS_BORDER;
     }
+    if (!FHideSelection)
+        Params.Style |= ES_NOHIDESEL;
 }
 
 void TCustomEdit::SetBorderStyle(TBorderStyle Value)
@@ -113,6 +114,45 @@ void TCustomEdit::SetBorderStyle(TBorderStyle Value)
         return;
     FBorderStyle = Value;
     RecreateWnd();
+}
+
+void TCustomEdit::SetCharCase(TEditCharCase Value)
+{
+    if (FCharCase == Value)
+        return;
+    FCharCase = Value;
+    SetText(GetText());
+}
+
+void TCustomEdit::SetHideSelection(bool Value)
+{
+    if (FHideSelection == Value)
+        return;
+    FHideSelection = Value;
+    RecreateWnd();
+}
+
+AnsiString InCharCase(const AnsiString& Text, TEditCharCase Case)
+{
+    if (Case == TEditCharCase::ecNormal)
+        return Text;
+    AnsiString Result;
+    for (std::size_t Index = 0; Index < Text.size();) {
+        const std::size_t Start = Index;
+        const char32_t Char = NextCodePoint(Text, Index);
+        const char32_t Wanted =
+            Case == TEditCharCase::ecUpperCase ? UpperCodePoint(Char) : LowerCodePoint(Char);
+        if (Wanted == Char)
+            Result.append(Text, Start, Index - Start); // as it came, valid or not
+        else
+            AppendCodePoint(Result, Wanted);
+    }
+    return Result;
+}
+
+void TCustomEdit::SetText(const AnsiString& Value)
+{
+    TPeerControl::SetText(InCharCase(Value, FCharCase));
 }
 
 void TCustomEdit::SetMaxLength(int Value)
@@ -191,6 +231,14 @@ void TCustomEdit::ApplyState()
     Edit->SetPasswordChar(static_cast<unsigned char>(FPasswordChar));
     Edit->SetReadOnly(FReadOnly);
     Edit->SetModified(FModified);
+    Edit->SetSelection(FKeptStart, FKeptLength);
+}
+
+void TCustomEdit::DestroyWnd()
+{
+    FKeptStart = GetSelStart();
+    FKeptLength = GetSelLength();
+    TPeerControl::DestroyWnd();
 }
 
 void TCustomEdit::PeerNotice(TPeerNotice Notice, std::int64_t)
@@ -198,23 +246,40 @@ void TCustomEdit::PeerNotice(TPeerNotice Notice, std::int64_t)
     if (Notice != TPeerNotice::TextChanged || !Peer())
         return;
     FModified = true;
-    TakeText(Peer()->GetText());
+    const AnsiString Typed = Peer()->GetText();
+    const AnsiString Wanted = InCharCase(Typed, FCharCase);
+    if (Wanted != Typed) {
+        const int Start = GetSelStart();
+        Peer()->SetText(Wanted);
+        Peer()->Edit()->SetSelection(Start, 0);
+        Peer()->Edit()->SetModified(true);
+    }
+    TakeText(Wanted);
+    Change();
 }
 
 void TCustomEdit::CMTextChanged(TMessage& Message)
 {
-    if (!IsTakingText())
-        FModified = false;
+    if (IsTakingText())
+        return;
+    FModified = false;
+    TAliveGuard Guard(*this);
     TPeerControl::CMTextChanged(Message);
-    if (!Is(TComponentState::csLoading))
+    if (Guard.IsAlive() && !Is(TComponentState::csLoading))
         Change();
 }
 
 void TCustomEdit::DoEnter()
 {
-    if (FAutoSelect)
+    // A press puts the caret where it points.
+    if (FAutoSelect && !FControlState.Contains(TControlStateFlag::csLButtonDown))
         SelectAll();
     TPeerControl::DoEnter();
+}
+
+void TCustomEdit::WMGetDlgCode(TMessage& Message)
+{
+    Message.Result = DLGC_WANTARROWS | DLGC_WANTCHARS;
 }
 
 } // namespace vcl

@@ -43,13 +43,13 @@ TGlyph::TGlyph(const TCustomImageList* Images, int Index)
     for (int Y = 0; Y < FHeight; ++Y)
         for (int X = 0; X < FWidth; ++X) {
             const std::uint32_t Pixel = PixelAt(OnBlack, X, Y);
-            FPixels.push_back(Pixel == PixelAt(OnWhite, X, Y) ? Pixel | Opaque : 0);
+            FPixels.push_back(((Pixel ^ PixelAt(OnWhite, X, Y)) & ~Opaque) == 0 ? Pixel | Opaque : 0);
         }
 }
 
-TGlyph::TGlyph(const TBitmap& Bitmap, int Count)
+TGlyph::TGlyph(const TBitmap& Bitmap, int Count, int Index)
 {
-    if (Bitmap.GetEmpty() || Count < 1)
+    if (Bitmap.GetEmpty() || Index < 0 || Index >= Count)
         return;
     TBitmap Copy;
     Copy.Assign(&Bitmap);
@@ -61,7 +61,7 @@ TGlyph::TGlyph(const TBitmap& Bitmap, int Count)
     FPixels.reserve(static_cast<std::size_t>(FWidth) * static_cast<std::size_t>(FHeight));
     for (int Y = 0; Y < FHeight; ++Y)
         for (int X = 0; X < FWidth; ++X) {
-            const std::uint32_t Pixel = PixelAt(Copy, X, Y) | Opaque;
+            const std::uint32_t Pixel = PixelAt(Copy, Index * FWidth + X, Y) | Opaque;
             FPixels.push_back(Pixel == Transparent ? 0 : Pixel);
         }
 }

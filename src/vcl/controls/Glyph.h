@@ -17,9 +17,9 @@ public:
     TGlyph() = default;
     /// A picture of an image list; empty for no list or a bad index.
     TGlyph(const TCustomImageList* Images, int Index);
-    /// A bitmap whose bottom left pixel's colour is transparent, as button glyphs are drawn. With Count
-    /// pictures side by side the first is taken.
-    explicit TGlyph(const TBitmap& Bitmap, int Count = 1);
+    /// A bitmap whose bottom left pixel's colour is transparent, as button glyphs are drawn. Of Count
+    /// pictures side by side the one with that Index is taken, from 0.
+    explicit TGlyph(const TBitmap& Bitmap, int Count = 1, int Index = 0);
 
     bool IsEmpty() const { return FPixels.empty(); }
     TPixelBuffer Buffer() const;

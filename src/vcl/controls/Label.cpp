@@ -1,17 +1,9 @@
 #include "vcl/controls/Label.h"
 
+#include "vcl/controls/CharacterCase.h"
+
 namespace vcl
 {
-
-namespace
-{
-
-char32_t FoldAscii(char32_t Key)
-{
-    return Key >= 'A' && Key <= 'Z' ? Key - 'A' + 'a' : Key;
-}
-
-} // namespace
 
 TTextAlign TextAlignOf(TAlignment Alignment)
 {
@@ -28,14 +20,21 @@ TTextAlign TextAlignOf(TAlignment Alignment)
 
 bool IsAccel(char32_t Key, const AnsiString& Text)
 {
-    for (std::size_t Index = 0; Index + 1 < Text.size(); ++Index) {
-        if (Text[Index] != '&')
+    std::size_t Index = 0;
+    while (Index < Text.size()) {
+        if (NextCodePoint(Text, Index) != '&' || Index >= Text.size())
             continue;
-        ++Index;
-        if (Text[Index] != '&')
-            return FoldAscii(static_cast<unsigned char>(Text[Index])) == FoldAscii(Key);
+        const char32_t Marked = NextCodePoint(Text, Index);
+        if (Marked != '&')
+            return FoldCase(Marked) == FoldCase(Key);
     }
     return false;
+}
+
+const TTypeInfo& TypeTraits<TTextLayout>::Info()
+{
+    static const TTypeInfo Type = EnumerationType("TTextLayout", {"tlTop", "tlCenter", "tlBottom"});
+    return Type;
 }
 
 const TClass& TLabel::StaticClass()
@@ -50,8 +49,12 @@ const TClass& TLabel::StaticClass()
             Publish("AutoSize").Default(true),
             Publish("BiDiMode"),
             Publish("Caption"),
-            Publish("Color"),
+            // What the parent gives it may be anything, so an own colour is always written.
+            Publish("Color").NoDefault(),
             Publish("Constraints"),
+            Publish("DragCursor"),
+            Publish("DragKind"),
+            Publish("DragMode"),
             Publish("Enabled"),
             Published<&TLabel::GetFocusControl, &TLabel::SetFocusControl>("FocusControl"),
             Publish("Font"),
@@ -63,13 +66,20 @@ const TClass& TLabel::StaticClass()
             Published<&TLabel::GetShowAccelChar, &TLabel::SetShowAccelChar>("ShowAccelChar").Default(true),
             Publish("ShowHint"),
             Published<&TLabel::GetTransparent, &TLabel::SetTransparent>("Transparent").Default(false),
+            Published<&TLabel::GetLayout, &TLabel::SetLayout>("Layout").Default(TTextLayout::tlTop),
             Publish("Visible"),
             Published<&TLabel::GetWordWrap, &TLabel::SetWordWrap>("WordWrap").Default(false),
             Publish("OnClick"),
             Publish("OnDblClick"),
+            Publish("OnDragDrop"),
+            Publish("OnDragOver"),
+            Publish("OnEndDock"),
+            Publish("OnEndDrag"),
             Publish("OnMouseDown"),
             Publish("OnMouseMove"),
             Publish("OnMouseUp"),
+            Publish("OnStartDock"),
+            Publish("OnStartDrag"),
         });
     return Class;
 }
@@ -79,16 +89,43 @@ TLabel::TLabel(TComponent* Owner) : TPeerControl(Owner, TWindowKind::Label, {65,
     SetAutoSize(true);
 }
 
-template <class T>
-void TLabel::Change(T& Field, T Value)
+void TLabel::StateChanged()
 {
-    if (Field == Value)
+    if (!Peer())
         return;
-    Field = Value;
-    if (Peer()) {
-        ApplyState();
-        AdjustSize();
-    }
+    ApplyState();
+    AdjustSize();
+}
+
+void TLabel::AdjustSize()
+{
+    const int Right = GetLeft() + GetWidth();
+    TAliveGuard Guard(*this);
+    TPeerControl::AdjustSize();
+    // Text that is flush right grows to the left.
+    if (Guard.IsAlive() && GetAutoSize() && FAlignment == TAlignment::taRightJustify && !FWordWrap && Peer())
+        SetLeft(Right - GetWidth());
+}
+
+bool TLabel::CanAutoSize(int& NewWidth, int& NewHeight)
+{
+    const int Width = NewWidth;
+    if (!TPeerControl::CanAutoSize(NewWidth, NewHeight))
+        return false;
+    // Wrapped text has the width it is given.
+    if (FWordWrap)
+        NewWidth = Width;
+    return true;
+}
+
+void TLabel::WndProc(TMessage& Message)
+{
+    TAliveGuard Guard(*this);
+    const unsigned Msg = Message.Msg;
+    TPeerControl::WndProc(Message);
+    // Only a colour of the label's own is painted.
+    if ((Msg == CM_COLORCHANGED || Msg == CM_PARENTCOLORCHANGED) && Guard.IsAlive() && Peer())
+        Peer()->Label()->SetOpaque(!FTransparent && !GetParentColor());
 }
 
 void TLabel::SetAlignment(TAlignment Value)
@@ -138,8 +175,8 @@ void TLabel::CMDialogChar(TMessage& Message)
 {
     if (FFocusControl && GetEnabled() && FShowAccelChar && FFocusControl->CanFocus() &&
         IsAccel(static_cast<char32_t>(Message.WParam), GetCaption())) {
-        FFocusControl->SetFocus();
         Message.Result = 1;
+        FFocusControl->SetFocus();
         return;
     }
     TPeerControl::CMDialogChar(Message);

@@ -5,6 +5,12 @@
 namespace vcl
 {
 
+enum class TTextLayout { tlTop, tlCenter, tlBottom };
+template <>
+struct TypeTraits<TTextLayout> {
+    static const TTypeInfo& Info();
+};
+
 /// A line or a block of text that names other controls.
 class TLabel : public TPeerControl
 {
@@ -17,6 +23,9 @@ public:
     /// The control that the access key of the caption gives the focus to.
     TWinControl* GetFocusControl() const { return FFocusControl; }
     void SetFocusControl(TWinControl* Value);
+    /// Where the text stands in a label that is higher than it.
+    TTextLayout GetLayout() const { return FLayout; }
+    void SetLayout(TTextLayout Value) { Change(FLayout, Value); }
     /// True: "&" marks the access key instead of being shown.
     bool GetShowAccelChar() const { return FShowAccelChar; }
     void SetShowAccelChar(bool Value);
@@ -25,17 +34,29 @@ public:
     bool GetWordWrap() const { return FWordWrap; }
     void SetWordWrap(bool Value);
 
+    void WndProc(TMessage& Message) override;
+
 protected:
     void ApplyState() override;
     void Notification(TComponent* Component, TOperation Operation) override;
+    void AdjustSize() override;
+    bool CanAutoSize(int& NewWidth, int& NewHeight) override;
     void CMDialogChar(TMessage& Message) override;
 
 private:
     template <class T>
-    void Change(T& Field, T Value);
+    void Change(T& Field, T Value)
+    {
+        if (Field == Value)
+            return;
+        Field = Value;
+        StateChanged();
+    }
+    void StateChanged();
 
     TWinControl* FFocusControl = nullptr;
     TAlignment FAlignment = TAlignment::taLeftJustify;
+    TTextLayout FLayout = TTextLayout::tlTop;
     bool FShowAccelChar = true;
     bool FTransparent = false;
     bool FWordWrap = false;
@@ -43,7 +64,7 @@ private:
 
 /// The platform's way to say an alignment.
 TTextAlign TextAlignOf(TAlignment Alignment);
-/// True when Text marks Key (a code point, case ignored for ASCII) as its access key with "&".
+/// True when Text marks Key (a code point, case ignored) as its access key with "&".
 bool IsAccel(char32_t Key, const AnsiString& Text);
 
 } // namespace vcl

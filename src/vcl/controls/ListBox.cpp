@@ -3,22 +3,33 @@
 namespace vcl
 {
 
+const TTypeInfo& TypeTraits<TListBoxStyle>::Info()
+{
+    static const TTypeInfo Type =
+        EnumerationType("TListBoxStyle", {"lbStandard", "lbOwnerDrawFixed", "lbOwnerDrawVariable"});
+    return Type;
+}
+
 const TClass& TCustomListBox::StaticClass()
 {
+    using T = TCustomListBox;
     static const TClass Class = DefineClass<TCustomListBox, TPeerControl>(
         "TCustomListBox",
         {
+            Declared(Published<&T::GetAutoComplete, &T::SetAutoComplete>("AutoComplete").Default(true)),
+            Declared(Published<&T::GetBorderStyle, &T::SetBorderStyle>("BorderStyle")
+                         .Default(TBorderStyle::bsSingle)),
+            Declared(Published<&T::GetColumns, &T::SetColumns>("Columns").Default(0)),
+            Declared(Published<&T::GetExtendedSelect, &T::SetExtendedSelect>("ExtendedSelect").Default(true)),
             Declared(
-                Published<&TCustomListBox::GetBorderStyle, &TCustomListBox::SetBorderStyle>("BorderStyle")
-                    .Default(TBorderStyle::bsSingle)),
-            Declared(Published<&TCustomListBox::GetItemHeight, &TCustomListBox::SetItemHeight>("ItemHeight")
-                         .NoDefault()),
-            Declared(Published<&TCustomListBox::GetItems, &TCustomListBox::SetItems>("Items")),
-            Declared(
-                Published<&TCustomListBox::GetMultiSelect, &TCustomListBox::SetMultiSelect>("MultiSelect")
-                    .Default(false)),
-            Declared(
-                Published<&TCustomListBox::GetSorted, &TCustomListBox::SetSorted>("Sorted").Default(false)),
+                Published<&T::GetIntegralHeight, &T::SetIntegralHeight>("IntegralHeight").Default(false)),
+            // Written when it was given: 0 is as the font wants.
+            Declared(Published<&T::GetItemHeight, &T::SetItemHeight>("ItemHeight").Default(0)),
+            Declared(Published<&T::GetItems, &T::SetItems>("Items")),
+            Declared(Published<&T::GetMultiSelect, &T::SetMultiSelect>("MultiSelect").Default(false)),
+            Declared(Published<&T::GetSorted, &T::SetSorted>("Sorted").Default(false)),
+            Declared(Published<&T::GetStyle, &T::SetStyle>("Style").Default(TListBoxStyle::lbStandard)),
+            Declared(Published<&T::GetTabWidth, &T::SetTabWidth>("TabWidth").Default(0)),
         });
     return Class;
 }
@@ -27,32 +38,41 @@ const TClass& TListBox::StaticClass()
 {
     static const TClass Class = DefineClass<TListBox, TCustomListBox>(
         "TListBox", {
+                        Publish("Style"),          Publish("AutoComplete"),
                         Publish("Align"),          Publish("Anchors"),
                         Publish("BiDiMode"),       Publish("BorderStyle"),
-                        Publish("Color"),          Publish("Constraints"),
-                        Publish("Ctl3D"),          Publish("Enabled"),
-                        Publish("Font"),           Publish("ItemHeight"),
+                        Publish("Color"),          Publish("Columns"),
+                        Publish("Constraints"),    Publish("Ctl3D"),
+                        Publish("DragCursor"),     Publish("DragKind"),
+                        Publish("DragMode"),       Publish("Enabled"),
+                        Publish("ExtendedSelect"), Publish("Font"),
+                        Publish("ImeMode"),        Publish("ImeName"),
+                        Publish("IntegralHeight"), Publish("ItemHeight"),
                         Publish("Items"),          Publish("MultiSelect"),
                         Publish("ParentBiDiMode"), Publish("ParentColor").Default(false),
                         Publish("ParentCtl3D"),    Publish("ParentFont"),
                         Publish("ParentShowHint"), Publish("PopupMenu"),
                         Publish("ShowHint"),       Publish("Sorted"),
                         Publish("TabOrder"),       Publish("TabStop").Default(true),
-                        Publish("Visible"),        Publish("OnClick"),
-                        Publish("OnDblClick"),     Publish("OnDragDrop"),
-                        Publish("OnDragOver"),     Publish("OnEnter"),
-                        Publish("OnExit"),         Publish("OnKeyDown"),
-                        Publish("OnKeyPress"),     Publish("OnKeyUp"),
-                        Publish("OnMouseDown"),    Publish("OnMouseMove"),
-                        Publish("OnMouseUp"),
+                        Publish("TabWidth"),       Publish("Visible"),
+                        Publish("OnClick"),        Publish("OnDblClick"),
+                        Publish("OnDragDrop"),     Publish("OnDragOver"),
+                        Publish("OnEndDock"),      Publish("OnEndDrag"),
+                        Publish("OnEnter"),        Publish("OnExit"),
+                        Publish("OnKeyDown"),      Publish("OnKeyPress"),
+                        Publish("OnKeyUp"),        Publish("OnMouseDown"),
+                        Publish("OnMouseMove"),    Publish("OnMouseUp"),
+                        Publish("OnStartDock"),    Publish("OnStartDrag"),
                     });
     return Class;
 }
 
 TCustomListBox::TCustomListBox(TComponent* Owner)
-    : TPeerControl(Owner, TWindowKind::ListBox, {121, 97}), FItems([this] { return List(); })
+    : TPeerControl(Owner, TWindowKind::ListBox, {121, 97}),
+      FItems(
+          TPeerStrings::TChoice::OfPeer, [this] { return List(); }, [] {})
 {
-    FControlStyle.Exclude(TControlStyleFlag::csClickEvents);
+    FControlStyle.Exclude(TControlStyleFlag::csClickEvents).Exclude(TControlStyleFlag::csSetCaption);
     SetTabStop(true);
     SetParentColor(false);
 }
@@ -61,7 +81,7 @@ void TCustomListBox::CreateParams(TCreateParams& Params)
 {
     TPeerControl::CreateParams(Params);
     if (FMultiSelect)
-        Params.Style |= LBS_MULTIPLESEL | LBS_EXTENDEDSEL;
+        Params.Style |= FExtendedSelect ? LBS_MULTIPLESEL | LBS_EXTENDEDSEL : LBS_MULTIPLESEL;
     if (FBorderStyle == TBorderStyle::bsSingle) {
         if (GetCtl3D())
             Params.ExStyle |= WS_EX_CLIENTEDGE;
@@ -75,12 +95,14 @@ void TCustomListBox::ApplyState()
     FItems.Apply();
     if (FItemHeight > 0)
         List()->SetItemHeight(FItemHeight);
-    List()->SetItemIndex(FItemIndex);
+    List()->SetTopIndex(FKeptTop);
 }
 
 void TCustomListBox::DestroyWnd()
 {
-    FItemIndex = GetItemIndex();
+    if (FItems.Live())
+        FItems.Keep();
+    FKeptTop = GetTopIndex();
     TPeerControl::DestroyWnd();
 }
 
@@ -95,8 +117,16 @@ void TCustomListBox::SetBorderStyle(TBorderStyle Value)
 void TCustomListBox::SetItemHeight(int Value)
 {
     FItemHeight = Value;
-    if (List())
+    if (List() && Value > 0)
         List()->SetItemHeight(Value);
+}
+
+void TCustomListBox::SetExtendedSelect(bool Value)
+{
+    if (FExtendedSelect == Value)
+        return;
+    FExtendedSelect = Value;
+    RecreateWnd();
 }
 
 void TCustomListBox::SetMultiSelect(bool Value)
@@ -105,18 +135,23 @@ void TCustomListBox::SetMultiSelect(bool Value)
         return;
     FMultiSelect = Value;
     RecreateWnd();
+    if (FMultiSelect)
+        return;
+    for (int Index = 0; Index < FItems.GetCount(); ++Index)
+        FItems.SetSelected(Index, false);
+    SetItemIndex(GetItemIndex());
 }
 
 int TCustomListBox::GetItemIndex() const
 {
-    return List() ? List()->GetItemIndex() : FItemIndex;
+    return FItems.Live() ? List()->GetItemIndex() : FItems.GetItemIndex();
 }
 
 void TCustomListBox::SetItemIndex(int Value)
 {
-    FItemIndex = Value >= 0 && Value < FItems.GetCount() ? Value : -1;
-    if (List())
-        List()->SetItemIndex(FItemIndex);
+    FItems.SetItemIndex(Value);
+    if (FItems.Live())
+        List()->SetItemIndex(FItems.GetItemIndex());
 }
 
 void TCustomListBox::CheckIndex(int Index) const
@@ -128,15 +163,21 @@ void TCustomListBox::CheckIndex(int Index) const
 bool TCustomListBox::GetSelected(int Index) const
 {
     CheckIndex(Index);
-    return List() ? List()->IsSelected(Index) : Index == FItemIndex;
+    if (FItems.Live())
+        return List()->IsSelected(Index);
+    return FMultiSelect ? FItems.IsSelected(Index) : Index == FItems.GetItemIndex();
 }
 
 void TCustomListBox::SetSelected(int Index, bool Value)
 {
     CheckIndex(Index);
-    if (!FMultiSelect)
-        SetItemIndex(Value ? Index : -1);
-    else if (List())
+    if (!FMultiSelect) {
+        if (Value || Index == GetItemIndex())
+            SetItemIndex(Value ? Index : -1);
+        return;
+    }
+    FItems.SetSelected(Index, Value);
+    if (FItems.Live())
         List()->SetSelected(Index, Value);
 }
 
@@ -167,6 +208,11 @@ void TCustomListBox::PeerNotice(TPeerNotice Notice, std::int64_t)
         Click();
     else if (Notice == TPeerNotice::ItemActivated)
         DblClick();
+}
+
+void TCustomListBox::WMGetDlgCode(TMessage& Message)
+{
+    Message.Result = DLGC_WANTARROWS | DLGC_WANTCHARS;
 }
 
 } // namespace vcl

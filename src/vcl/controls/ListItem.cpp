@@ -16,7 +16,10 @@ TListItem::TListItem(TListView* ListView) : FListView(ListView)
     FSubItems.OnChange = [this](TObject*) { FListView->ItemChanged(this); };
 }
 
-TListItem::~TListItem() = default;
+TListItem::~TListItem()
+{
+    FSubItems.OnChange = nullptr;
+}
 
 void TListItem::SetCaption(const AnsiString& Value)
 {
@@ -57,7 +60,9 @@ void TListItem::SetSelected(bool Value)
 
 void TListItem::Delete()
 {
-    FListView->Delete(GetIndex());
+    const int Index = GetIndex();
+    if (Index >= 0)
+        FListView->Delete(Index);
 }
 
 std::vector<AnsiString> TListItem::Cells() const

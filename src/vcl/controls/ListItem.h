@@ -39,6 +39,7 @@ private:
     friend class TListView;
 
     TListView* FListView;
+    int FPlace = -1; // where the list view last found the row
     AnsiString FCaption;
     TStringList FSubItems;
     void* FData = nullptr;

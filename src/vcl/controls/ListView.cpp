@@ -17,12 +17,18 @@ const TTypeInfo& TypeTraits<TViewStyle>::Info()
 const TClass& TListColumn::StaticClass()
 {
     static const TClass Class = DefineClass<TListColumn, TCollectionItem>(
-        "TListColumn", {
-                           Published<&TListColumn::GetAlignment, &TListColumn::SetAlignment>("Alignment")
-                               .Default(TAlignment::taLeftJustify),
-                           Published<&TListColumn::GetCaption, &TListColumn::SetCaption>("Caption"),
-                           Published<&TListColumn::GetWidth, &TListColumn::SetWidth>("Width").Default(50),
-                       });
+        "TListColumn",
+        {
+            Published<&TListColumn::GetAlignment, &TListColumn::SetAlignment>("Alignment")
+                .Default(TAlignment::taLeftJustify),
+            Published<&TListColumn::GetAutoSize, &TListColumn::SetAutoSize>("AutoSize").Default(false),
+            Published<&TListColumn::GetCaption, &TListColumn::SetCaption>("Caption"),
+            Published<&TListColumn::GetImageIndex, &TListColumn::SetImageIndex>("ImageIndex").Default(-1),
+            Published<&TListColumn::GetMaxWidth, &TListColumn::SetMaxWidth>("MaxWidth").Default(0),
+            Published<&TListColumn::GetMinWidth, &TListColumn::SetMinWidth>("MinWidth").Default(0),
+            Published<&TListColumn::GetTag, &TListColumn::SetTag>("Tag").Default(0),
+            Published<&TListColumn::GetWidth, &TListColumn::SetWidth>("Width").Default(50),
+        });
     return Class;
 }
 
@@ -36,6 +42,11 @@ void TListColumn::Assign(const TPersistent* Source)
     FCaption = Other->FCaption;
     FWidth = Other->FWidth;
     FAlignment = Other->FAlignment;
+    FAutoSize = Other->FAutoSize;
+    FImageIndex = Other->FImageIndex;
+    FMaxWidth = Other->FMaxWidth;
+    FMinWidth = Other->FMinWidth;
+    FTag = Other->FTag;
     Changed(false);
 }
 
@@ -52,7 +63,9 @@ TListColumns::TListColumns(TListView* ListView)
 
 void TListColumns::Update(TCollectionItem*)
 {
-    FListView->ColumnsChanged();
+    // The columns go last.
+    if (!FListView->Is(TComponentState::csDestroying))
+        FListView->ColumnsChanged();
 }
 
 const TClass& TListView::StaticClass()
@@ -63,14 +76,25 @@ const TClass& TListView::StaticClass()
             Publish("Align"),
             Publish("Anchors"),
             Publish("BiDiMode"),
+            Published<&TListView::GetBorderStyle, &TListView::SetBorderStyle>("BorderStyle")
+                .Default(TBorderStyle::bsSingle),
             Published<&TListView::GetCheckboxes, &TListView::SetCheckboxes>("Checkboxes").Default(false),
             Publish("Color"),
             Published<&TListView::GetColumns, &TListView::SetColumns>("Columns"),
+            Published<&TListView::GetColumnClick, &TListView::SetColumnClick>("ColumnClick").Default(true),
             Publish("Constraints"),
             Publish("Ctl3D"),
+            Publish("DragCursor"),
+            Publish("DragKind"),
+            Publish("DragMode"),
             Publish("Enabled"),
             Publish("Font"),
+            Published<&TListView::GetGridLines, &TListView::SetGridLines>("GridLines").Default(false),
+            Published<&TListView::GetHideSelection, &TListView::SetHideSelection>("HideSelection")
+                .Default(true),
+            Published<&TListView::GetHotTrack, &TListView::SetHotTrack>("HotTrack").Default(false),
             Published<&TListView::GetMultiSelect, &TListView::SetMultiSelect>("MultiSelect").Default(false),
+            Published<&TListView::GetReadOnly, &TListView::SetReadOnly>("ReadOnly").Default(false),
             Published<&TListView::GetRowSelect, &TListView::SetRowSelect>("RowSelect").Default(false),
             Publish("ParentBiDiMode"),
             Publish("ParentColor").Default(false),
@@ -88,12 +112,22 @@ const TClass& TListView::StaticClass()
             Publish("OnClick"),
             Published<&TListView::OnColumnClick>("OnColumnClick"),
             Publish("OnDblClick"),
+            Publish("OnDragDrop"),
+            Publish("OnDragOver"),
+            Publish("OnEndDock"),
+            Publish("OnEndDrag"),
             Publish("OnEnter"),
             Publish("OnExit"),
             Publish("OnKeyDown"),
             Publish("OnKeyPress"),
             Publish("OnKeyUp"),
+            Publish("OnMouseDown"),
+            Publish("OnMouseMove"),
+            Publish("OnMouseUp"),
+            Publish("OnResize"),
             Published<&TListView::OnSelectItem>("OnSelectItem"),
+            Publish("OnStartDock"),
+            Publish("OnStartDrag"),
         });
     return Class;
 }
@@ -101,12 +135,31 @@ const TClass& TListView::StaticClass()
 TListView::TListView(TComponent* Owner)
     : TPeerControl(Owner, TWindowKind::ListView, {250, 150}), FColumns(std::make_unique<TListColumns>(this))
 {
-    FControlStyle.Exclude(TControlStyleFlag::csClickEvents);
+    FControlStyle.Exclude(TControlStyleFlag::csClickEvents).Exclude(TControlStyleFlag::csSetCaption);
     SetTabStop(true);
     SetParentColor(false);
 }
 
 TListView::~TListView() = default;
+
+void TListView::CreateParams(TCreateParams& Params)
+{
+    TPeerControl::CreateParams(Params);
+    if (FBorderStyle == TBorderStyle::bsNone)
+        return;
+    if (GetCtl3D())
+        Params.ExStyle |= WS_EX_CLIENTEDGE;
+    else
+        Params.Style |= WS_BORDER;
+}
+
+void TListView::SetBorderStyle(TBorderStyle Value)
+{
+    if (FBorderStyle == Value)
+        return;
+    FBorderStyle = Value;
+    RecreateWnd();
+}
 
 void TListView::SetCheckboxes(bool Value)
 {
@@ -147,9 +200,16 @@ TListItem* TListView::GetItem(int Index) const
 
 int TListView::IndexOf(const TListItem* Item) const
 {
-    const auto Found =
-        std::find_if(FItems.begin(), FItems.end(), [Item](const auto& Each) { return Each.get() == Item; });
-    return Found == FItems.end() ? -1 : static_cast<int>(Found - FItems.begin());
+    const auto StandsAt = [&](int Place) {
+        return Place >= 0 && Place < FPlaced && FItems[static_cast<std::size_t>(Place)].get() == Item;
+    };
+    if (!Item || Item->FListView != this)
+        return -1;
+    if (StandsAt(Item->FPlace))
+        return Item->FPlace;
+    for (; FPlaced < GetCount(); ++FPlaced)
+        FItems[static_cast<std::size_t>(FPlaced)]->FPlace = FPlaced;
+    return StandsAt(Item->FPlace) ? Item->FPlace : -1;
 }
 
 TListItem* TListView::Insert(int Index)
@@ -157,6 +217,7 @@ TListItem* TListView::Insert(int Index)
     if (Index < 0 || Index > GetCount())
         throw EListError("List index out of bounds (" + IntToStr(Index) + ")");
     const auto Place = FItems.insert(FItems.begin() + Index, std::make_unique<TListItem>(this));
+    FPlaced = std::min(FPlaced, Index);
     if (View())
         View()->InsertRow(Index, (*Place)->Cells());
     return Place->get();
@@ -165,7 +226,10 @@ TListItem* TListView::Insert(int Index)
 void TListView::Delete(int Index)
 {
     GetItem(Index);
+    // Out of the list before it dies, so that nobody finds a row that is half gone.
+    const std::unique_ptr<TListItem> Gone = std::move(FItems[static_cast<std::size_t>(Index)]);
     FItems.erase(FItems.begin() + Index);
+    FPlaced = std::min(FPlaced, Index);
     if (View())
         View()->DeleteRow(Index);
 }
@@ -173,6 +237,7 @@ void TListView::Delete(int Index)
 void TListView::Clear()
 {
     FItems.clear();
+    FPlaced = 0;
     if (View())
         View()->Clear();
 }
@@ -248,8 +313,11 @@ void TListView::ApplyState()
         const TListItem& Item = *FItems[static_cast<std::size_t>(Index)];
         View()->InsertRow(Index, Item.Cells());
         View()->SetChecked(Index, Item.FChecked);
-        View()->SetSelected(Index, Item.FSelected);
+        if (Item.FSelected)
+            View()->SetSelected(Index, true);
     }
+    if (FKeptFocus >= 0 && FKeptFocus < GetCount())
+        View()->SetFocusedRow(FKeptFocus);
 }
 
 void TListView::DestroyWnd()
@@ -258,6 +326,7 @@ void TListView::DestroyWnd()
         Item->FChecked = Item->GetChecked();
         Item->FSelected = Item->GetSelected();
     }
+    FKeptFocus = View()->GetFocusedRow();
     TPeerControl::DestroyWnd();
 }
 
@@ -280,12 +349,17 @@ void TListView::PeerNotice(TPeerNotice Notice, std::int64_t Index)
         DblClick();
         break;
     case TPeerNotice::ColumnClicked:
-        if (Index >= 0 && Index < FColumns->GetCount())
+        if (FColumnClick && Index >= 0 && Index < FColumns->GetCount())
             OnColumnClick(this, FColumns->GetItem(static_cast<int>(Index)));
         break;
     default:
         break;
     }
+}
+
+void TListView::WMGetDlgCode(TMessage& Message)
+{
+    Message.Result = DLGC_WANTARROWS | DLGC_WANTCHARS;
 }
 
 } // namespace vcl

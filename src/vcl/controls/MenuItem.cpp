@@ -18,14 +18,34 @@ unsigned NextCommand()
 
 } // namespace
 
+const TTypeInfo& TypeTraits<TMenuItemAutoFlag>::Info()
+{
+    static const TTypeInfo Type =
+        EnumerationType("TMenuItemAutoFlag", {"maAutomatic", "maManual", "maParent"});
+    return Type;
+}
+
+const TTypeInfo& TypeTraits<TMenuBreak>::Info()
+{
+    static const TTypeInfo Type = EnumerationType("TMenuBreak", {"mbNone", "mbBreak", "mbBarBreak"});
+    return Type;
+}
+
 const TClass& TMenuItem::StaticClass()
 {
     static const TClass Class = DefineClass<TMenuItem, TComponent>(
         "TMenuItem",
         {
             Published<&TMenuItem::GetAutoCheck, &TMenuItem::SetAutoCheck>("AutoCheck").Default(false),
+            Published<&TMenuItem::GetAutoHotkeys, &TMenuItem::SetAutoHotkeys>("AutoHotkeys")
+                .Default(TMenuItemAutoFlag::maParent),
+            Published<&TMenuItem::GetAutoLineReduction, &TMenuItem::SetAutoLineReduction>("AutoLineReduction")
+                .Default(TMenuItemAutoFlag::maParent),
+            Published<&TMenuItem::GetBitmap, &TMenuItem::SetBitmap>("Bitmap"),
+            Published<&TMenuItem::GetBreak, &TMenuItem::SetBreak>("Break").Default(TMenuBreak::mbNone),
             Published<&TMenuItem::GetCaption, &TMenuItem::SetCaption>("Caption"),
             Published<&TMenuItem::GetChecked, &TMenuItem::SetChecked>("Checked").Default(false),
+            Published<&TMenuItem::GetSubMenuImages, &TMenuItem::SetSubMenuImages>("SubMenuImages"),
             Published<&TMenuItem::GetDefault, &TMenuItem::SetDefault>("Default").Default(false),
             Published<&TMenuItem::GetEnabled, &TMenuItem::SetEnabled>("Enabled").Default(true),
             Published<&TMenuItem::GetGroupIndex, &TMenuItem::SetGroupIndex>("GroupIndex").Default(0),
@@ -40,8 +60,17 @@ const TClass& TMenuItem::StaticClass()
     return Class;
 }
 
-TMenuItem::TMenuItem(TComponent* Owner) : TComponent(Owner), FCommand(NextCommand())
+TMenuItem::TMenuItem(TComponent* Owner)
+    : TComponent(Owner), FBitmap(std::make_unique<TBitmap>()), FCommand(NextCommand())
 {
+    FBitmap->OnChange = [this](TObject*) {
+        FGlyphIsMade = false;
+        Changed();
+    };
+    FImagesLink.OnChange = [this](TObject*) {
+        ForgetGlyphs();
+        Changed();
+    };
 }
 
 TMenuItem::~TMenuItem()
@@ -77,6 +106,10 @@ void TMenuItem::SetChecked(bool Value)
 
 void TMenuItem::SetDefault(bool Value)
 {
+    if (Value && FParent)
+        for (TMenuItem* Item : FParent->FItems)
+            if (Item != this)
+                Item->FDefault = false;
     Change(FDefault, Value);
 }
 
@@ -87,12 +120,62 @@ void TMenuItem::SetEnabled(bool Value)
 
 void TMenuItem::SetImageIndex(int Value)
 {
+    if (FImageIndex != Value)
+        FGlyphIsMade = false;
     Change(FImageIndex, Value);
 }
 
 void TMenuItem::SetRadioItem(bool Value)
 {
-    Change(FRadioItem, Value);
+    if (FRadioItem == Value)
+        return;
+    FRadioItem = Value;
+    if (FChecked && FRadioItem)
+        UncheckNeighbours();
+    Changed();
+}
+
+void TMenuItem::SetGroupIndex(std::uint8_t Value)
+{
+    if (FGroupIndex == Value)
+        return;
+    FGroupIndex = Value;
+    if (FChecked && FRadioItem)
+        UncheckNeighbours();
+}
+
+void TMenuItem::SetSubMenuImages(TCustomImageList* Value)
+{
+    if (FSubMenuImages == Value)
+        return;
+    if (FSubMenuImages)
+        FSubMenuImages->UnregisterChanges(&FImagesLink);
+    FSubMenuImages = Value;
+    if (FSubMenuImages) {
+        FSubMenuImages->RegisterChanges(&FImagesLink);
+        FSubMenuImages->FreeNotification(this);
+    }
+    ForgetGlyphs();
+    Changed();
+}
+
+void TMenuItem::Notification(TComponent* Component, TOperation Operation)
+{
+    TComponent::Notification(Component, Operation);
+    if (Operation == TOperation::opRemove && Component == FSubMenuImages)
+        SetSubMenuImages(nullptr);
+}
+
+void TMenuItem::ForgetGlyphs()
+{
+    FGlyphIsMade = false;
+    for (TMenuItem* Item : FItems)
+        Item->ForgetGlyphs();
+}
+
+bool TMenuItem::IsReachable() const
+{
+    return FEnabled && (!FParent || FParent->IsReachable());
 }
 
 void TMenuItem::SetShortCut(TShortCut Value)
@@ -128,12 +211,17 @@ int TMenuItem::IndexOf(const TMenuItem* Item) const
 
 void TMenuItem::Insert(int Index, TMenuItem* Item)
 {
-    if (Item->FParent)
+    const TMenuItem* Above = this;
+    while (Above && Above != Item)
+        Above = Above->FParent;
+    // Neither into a second menu nor into itself.
+    if (Item->FParent || Above)
         throw Exception("Menu inserted twice");
     if (Index < 0 || Index > GetCount())
         throw Exception("Menu index out of range");
     FItems.insert(FItems.begin() + Index, Item);
     Item->FParent = this;
+    Item->ForgetGlyphs();
     Changed();
 }
 
@@ -182,12 +270,18 @@ TMenuItem* TMenuItem::FindShortCut(TShortCut ShortCut)
 {
     if (ShortCut == 0)
         return nullptr;
-    return Find([ShortCut](const TMenuItem& Item) { return Item.FShortCut == ShortCut; });
+    return Find(
+        [ShortCut](const TMenuItem& Item) { return Item.FShortCut == ShortCut && Item.IsReachable(); });
 }
 
 TMenuSpec::TItem TMenuItem::BuildSpec(const TCustomImageList* Images)
 {
-    FGlyph = TGlyph(Images, FImageIndex);
+    if (!FGlyphIsMade) {
+        FGlyph = TGlyph(Images, FImageIndex);
+        if (FGlyph.IsEmpty())
+            FGlyph = TGlyph(*FBitmap);
+        FGlyphIsMade = true;
+    }
     TMenuSpec::TItem Spec;
     Spec.Command = FCommand;
     Spec.Caption = FCaption;
@@ -200,7 +294,7 @@ TMenuSpec::TItem TMenuItem::BuildSpec(const TCustomImageList* Images)
     Spec.Glyph = FGlyph.Buffer();
     Spec.Items.reserve(FItems.size());
     for (TMenuItem* Item : FItems)
-        Spec.Items.push_back(Item->BuildSpec(Images));
+        Spec.Items.push_back(Item->BuildSpec(FSubMenuImages ? FSubMenuImages : Images));
     return Spec;
 }
 

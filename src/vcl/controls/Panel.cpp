@@ -16,45 +16,68 @@ const TTypeInfo& TypeTraits<TPanelBevel>::Info()
 const TClass& TPanel::StaticClass()
 {
     static const TClass Class = DefineClass<TPanel, TCustomControl>(
-        "TPanel", {
-                      Publish("Align"),
-                      Published<&TPanel::GetAlignment, &TPanel::SetAlignment>("Alignment")
-                          .Default(TAlignment::taCenter),
-                      Publish("Anchors"),
-                      Published<&TPanel::GetBevelInner, &TPanel::SetBevelInner>("BevelInner")
-                          .Default(TPanelBevel::bvNone),
-                      Published<&TPanel::GetBevelOuter, &TPanel::SetBevelOuter>("BevelOuter")
-                          .Default(TPanelBevel::bvRaised),
-                      Published<&TPanel::GetBevelWidth, &TPanel::SetBevelWidth>("BevelWidth").Default(1),
-                      Publish("BiDiMode"),
-                      Published<&TPanel::GetBorderWidth, &TPanel::SetBorderWidth>("BorderWidth").Default(0),
-                      Published<&TPanel::GetBorderStyle, &TPanel::SetBorderStyle>("BorderStyle")
-                          .Default(TBorderStyle::bsNone),
-                      Publish("Caption"),
-                      Publish("Color").Default(clBtnFace),
-                      Publish("Constraints"),
-                      Publish("Ctl3D"),
-                      Publish("Enabled"),
-                      Publish("Font"),
-                      Publish("ParentBiDiMode"),
-                      Publish("ParentColor"),
-                      Publish("ParentCtl3D"),
-                      Publish("ParentFont"),
-                      Publish("ParentShowHint"),
-                      Publish("PopupMenu"),
-                      Publish("ShowHint"),
-                      Publish("TabOrder"),
-                      Publish("TabStop"),
-                      Publish("Visible"),
-                      Publish("OnClick"),
-                      Publish("OnDblClick"),
-                      Publish("OnEnter"),
-                      Publish("OnExit"),
-                      Publish("OnMouseDown"),
-                      Publish("OnMouseMove"),
-                      Publish("OnMouseUp"),
-                      Publish("OnResize"),
-                  });
+        "TPanel",
+        {
+            Publish("Align"),
+            Published<&TPanel::GetAlignment, &TPanel::SetAlignment>("Alignment")
+                .Default(TAlignment::taCenter),
+            Publish("Anchors"),
+            Publish("AutoSize"),
+            Published<&TPanel::GetBevelInner, &TPanel::SetBevelInner>("BevelInner")
+                .Default(TPanelBevel::bvNone),
+            Published<&TPanel::GetBevelOuter, &TPanel::SetBevelOuter>("BevelOuter")
+                .Default(TPanelBevel::bvRaised),
+            Published<&TPanel::GetBevelWidth, &TPanel::SetBevelWidth>("BevelWidth").Default(1),
+            Publish("BiDiMode"),
+            Published<&TPanel::GetBorderWidth, &TPanel::SetBorderWidth>("BorderWidth").Default(0),
+            Published<&TPanel::GetBorderStyle, &TPanel::SetBorderStyle>("BorderStyle")
+                .Default(TBorderStyle::bsNone),
+            Publish("Caption"),
+            Publish("Color").Default(clBtnFace),
+            Publish("Constraints"),
+            Publish("Ctl3D"),
+            Publish("UseDockManager").Default(true),
+            Publish("DockSite"),
+            Publish("DragCursor"),
+            Publish("DragKind"),
+            Publish("DragMode"),
+            Publish("Enabled"),
+            Published<&TPanel::GetFullRepaint, &TPanel::SetFullRepaint>("FullRepaint").Default(true),
+            Publish("Font"),
+            Published<&TPanel::GetLocked, &TPanel::SetLocked>("Locked").Default(false),
+            Publish("ParentBiDiMode"),
+            Published<&TPanel::GetParentBackground, &TPanel::SetParentBackground>("ParentBackground")
+                .Default(true),
+            Publish("ParentColor").Default(false),
+            Publish("ParentCtl3D"),
+            Publish("ParentFont"),
+            Publish("ParentShowHint"),
+            Publish("PopupMenu"),
+            Publish("ShowHint"),
+            Publish("TabOrder"),
+            Publish("TabStop"),
+            Publish("Visible"),
+            Publish("OnCanResize"),
+            Publish("OnClick"),
+            Publish("OnConstrainedResize"),
+            Publish("OnDockDrop"),
+            Publish("OnDockOver"),
+            Publish("OnDblClick"),
+            Publish("OnDragDrop"),
+            Publish("OnDragOver"),
+            Publish("OnEndDock"),
+            Publish("OnEndDrag"),
+            Publish("OnEnter"),
+            Publish("OnExit"),
+            Publish("OnGetSiteInfo"),
+            Publish("OnMouseDown"),
+            Publish("OnMouseMove"),
+            Publish("OnMouseUp"),
+            Publish("OnResize"),
+            Publish("OnStartDock"),
+            Publish("OnStartDrag"),
+            Publish("OnUnDock"),
+        });
     return Class;
 }
 
@@ -64,6 +87,7 @@ TPanel::TPanel(TComponent* Owner) : TCustomControl(Owner)
     FHeight = 41;
     FControlStyle.Include(TControlStyleFlag::csAcceptsControls);
     SetColor(clBtnFace);
+    SetUseDockManager(true);
 }
 
 void TPanel::CreateParams(TCreateParams& Params)
@@ -122,6 +146,8 @@ void TPanel::PaintBevel(TRect& Rect, TPanelBevel Bevel)
     TCanvas& Canvas = *GetCanvas();
     for (int Ring = 0; Ring < FBevelWidth && Bevel != TPanelBevel::bvSpace; ++Ring) {
         const TRect R{Rect.Left + Ring, Rect.Top + Ring, Rect.Right - Ring, Rect.Bottom - Ring};
+        if (R.Width() < 1 || R.Height() < 1)
+            break;
         const bool IsRaised = Bevel == TPanelBevel::bvRaised;
         Canvas.GetPen()->SetColor(IsRaised ? clBtnHighlight : clBtnShadow);
         Canvas.MoveTo(R.Left, R.Bottom - 1);
@@ -132,6 +158,14 @@ void TPanel::PaintBevel(TRect& Rect, TPanelBevel Bevel)
         Canvas.LineTo(R.Left - 1, R.Bottom - 1);
     }
     InflateRect(Rect, -FBevelWidth, -FBevelWidth);
+}
+
+void TPanel::CMCtl3DChanged(TMessage& Message)
+{
+    TAliveGuard Guard(*this);
+    TCustomControl::CMCtl3DChanged(Message);
+    if (Guard.IsAlive() && FBorderStyle == TBorderStyle::bsSingle)
+        RecreateWnd();
 }
 
 void TPanel::CMTextChanged(TMessage& Message)

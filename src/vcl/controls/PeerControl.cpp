@@ -27,7 +27,10 @@ void TPeerControl::CreateParams(TCreateParams& Params)
 
 void TPeerControl::CreateWnd()
 {
+    TAliveGuard Guard(*this);
     TWinControl::CreateWnd();
+    if (!Guard.IsAlive() || !HandleAllocated())
+        return;
     ApplyState();
     AdjustSize();
 }
@@ -54,14 +57,27 @@ void TPeerControl::CMTextChanged(TMessage& Message)
 {
     if (FTakingText)
         return;
+    TAliveGuard Guard(*this);
     TWinControl::CMTextChanged(Message);
-    AdjustSize();
+    if (Guard.IsAlive())
+        AdjustSize();
 }
 
 void TPeerControl::CMFontChanged(TMessage& Message)
 {
+    TAliveGuard Guard(*this);
     TWinControl::CMFontChanged(Message);
-    AdjustSize();
+    if (Guard.IsAlive())
+        AdjustSize();
+}
+
+void TPeerControl::CMCtl3DChanged(TMessage& Message)
+{
+    TAliveGuard Guard(*this);
+    TWinControl::CMCtl3DChanged(Message);
+    // The frame is part of the window's style.
+    if (Guard.IsAlive())
+        RecreateWnd();
 }
 
 void TPeerControl::TakeText(const AnsiString& Text)

@@ -21,10 +21,11 @@ protected:
     void Loaded() override;
     void CMTextChanged(TMessage& Message) override;
     void CMFontChanged(TMessage& Message) override;
+    void CMCtl3DChanged(TMessage& Message) override;
 
     /// The window while there is a handle, else null.
     IWindow* Peer() const { return HandleAllocated() ? GetWindow() : nullptr; }
-    /// Takes over what the user typed without telling the platform again.
+    /// Takes over what the user typed: nothing is sent back to the platform and no event raised.
     void TakeText(const AnsiString& Text);
     bool IsTakingText() const { return FTakingText; }
 

@@ -65,13 +65,17 @@ const TClass& TStatusBar::StaticClass()
     static const TClass Class = DefineClass<TStatusBar, TPeerControl>(
         "TStatusBar",
         {
+            Published<&TStatusBar::GetAutoHint, &TStatusBar::SetAutoHint>("AutoHint").Default(false),
             Publish("Align").Default(TAlign::alBottom),
             Publish("Anchors"),
             Publish("BiDiMode"),
             Publish("Color").Default(clBtnFace),
             Publish("Constraints"),
+            Publish("DragCursor"),
+            Publish("DragKind"),
+            Publish("DragMode"),
             Publish("Enabled"),
-            Publish("Font"),
+            Publish("Font").Stored<&TStatusBar::IsOwnFontStored>(),
             Published<&TStatusBar::GetPanels, &TStatusBar::SetPanels>("Panels"),
             Publish("ParentBiDiMode"),
             Publish("ParentColor").Default(false),
@@ -82,10 +86,21 @@ const TClass& TStatusBar::StaticClass()
             Published<&TStatusBar::GetSimplePanel, &TStatusBar::SetSimplePanel>("SimplePanel").Default(false),
             Published<&TStatusBar::GetSimpleText, &TStatusBar::SetSimpleText>("SimpleText"),
             Published<&TStatusBar::GetSizeGrip, &TStatusBar::SetSizeGrip>("SizeGrip").Default(true),
+            Published<&TStatusBar::GetUseSystemFont, &TStatusBar::SetUseSystemFont>("UseSystemFont")
+                .Default(true),
             Publish("Visible"),
             Publish("OnClick"),
             Publish("OnDblClick"),
+            Publish("OnDragDrop"),
+            Publish("OnDragOver"),
+            Publish("OnEndDock"),
+            Publish("OnEndDrag"),
+            Publish("OnMouseDown"),
+            Publish("OnMouseMove"),
+            Publish("OnMouseUp"),
             Publish("OnResize"),
+            Publish("OnStartDock"),
+            Publish("OnStartDrag"),
         });
     return Class;
 }
@@ -93,6 +108,7 @@ const TClass& TStatusBar::StaticClass()
 TStatusBar::TStatusBar(TComponent* Owner)
     : TPeerControl(Owner, TWindowKind::StatusBar, {150, 22}), FPanels(std::make_unique<TStatusPanels>(this))
 {
+    FControlStyle.Exclude(TControlStyleFlag::csSetCaption);
     SetColor(clBtnFace);
     SetParentFont(false);
     SetAlign(TAlign::alBottom);
@@ -120,7 +136,8 @@ void TStatusBar::SetSizeGrip(bool Value)
 
 void TStatusBar::PanelsChanged()
 {
-    if (Peer())
+    // The panels go last.
+    if (Peer() && !Is(TComponentState::csDestroying))
         ApplyState();
 }
 

@@ -76,6 +76,13 @@ public:
     explicit TStatusBar(TComponent* Owner);
     ~TStatusBar() override;
 
+    /// Kept for form files.
+    bool GetAutoHint() const { return FAutoHint; }
+    void SetAutoHint(bool Value) { FAutoHint = Value; }
+    /// True: the font is the system's, and form files do not store one.
+    bool GetUseSystemFont() const { return FUseSystemFont; }
+    void SetUseSystemFont(bool Value) { FUseSystemFont = Value; }
+    bool IsOwnFontStored() const { return !FUseSystemFont && !GetParentFont(); }
     TStatusPanels* GetPanels() const { return FPanels.get(); }
     void SetPanels(const TStatusPanels* Value) { FPanels->Assign(Value); }
     /// True: SimpleText alone instead of the panels.
@@ -95,6 +102,8 @@ protected:
 private:
     std::unique_ptr<TStatusPanels> FPanels;
     AnsiString FSimpleText;
+    bool FAutoHint = false;
+    bool FUseSystemFont = true;
     bool FSimplePanel = false;
     bool FSizeGrip = true;
 };

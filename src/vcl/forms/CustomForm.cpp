@@ -46,6 +46,10 @@ void TCustomForm::BeforeDestruction()
 {
     DoDestroy();
     Screen().RemoveForm(this);
+    // A menu that outlives the form must not tell it of its changes.
+    if (FMenu)
+        FMenu->OnChanged.Reset();
+    FMenu = nullptr;
     FActiveControl = nullptr;
     FFocusedControl = nullptr;
     TCustomControl::BeforeDestruction();

@@ -17,11 +17,21 @@ const TTypeInfo& TypeTraits<TOpenOption>::Info()
     return Type;
 }
 
+const TTypeInfo& TypeTraits<TOpenOptionEx>::Info()
+{
+    static const TTypeInfo Type = EnumerationType("TOpenOptionEx", {"ofExNoPlacesBar"});
+    return Type;
+}
+
 const TClass& TOpenDialog::StaticClass()
 {
     static const TClass Class = DefineClass<TOpenDialog, TComponent>(
         "TOpenDialog",
         {
+            Published<&TOpenDialog::GetCtl3D, &TOpenDialog::SetCtl3D>("Ctl3D").Default(true),
+            Published<&TOpenDialog::GetHelpContext, &TOpenDialog::SetHelpContext>("HelpContext").Default(0),
+            Published<&TOpenDialog::OnClose>("OnClose"),
+            Published<&TOpenDialog::OnShow>("OnShow"),
             Published<&TOpenDialog::GetDefaultExt, &TOpenDialog::SetDefaultExt>("DefaultExt"),
             Published<&TOpenDialog::GetFileName, &TOpenDialog::SetFileName>("FileName"),
             Published<&TOpenDialog::GetFilter, &TOpenDialog::SetFilter>("Filter"),
@@ -29,9 +39,10 @@ const TClass& TOpenDialog::StaticClass()
             Published<&TOpenDialog::GetInitialDir, &TOpenDialog::SetInitialDir>("InitialDir"),
             Published<&TOpenDialog::GetOptions, &TOpenDialog::SetOptions>("Options").Default(
                 TOpenOptions{TOpenOption::ofHideReadOnly, TOpenOption::ofEnableSizing}),
+            Published<&TOpenDialog::GetOptionsEx, &TOpenDialog::SetOptionsEx>("OptionsEx")
+                .Default(TOpenOptionsEx()),
             Published<&TOpenDialog::GetTitle, &TOpenDialog::SetTitle>("Title"),
-            Published<&TOpenDialog::OnClose>("OnClose"),
-            Published<&TOpenDialog::OnShow>("OnShow"),
+            Published<&TOpenDialog::OnCanClose>("OnCanClose"),
         });
     return Class;
 }
@@ -46,7 +57,7 @@ TOpenDialog::TOpenDialog(TComponent* Owner) : TComponent(Owner)
 {
 }
 
-bool TOpenDialog::Execute(TWinControl* Parent)
+bool TOpenDialog::Choose(IWindow* Window)
 {
     TFileDialogSpec Spec;
     Spec.Save = IsSaving();
@@ -59,18 +70,36 @@ bool TOpenDialog::Execute(TWinControl* Parent)
     Spec.AllowMultiSelect = FOptions.Contains(TOpenOption::ofAllowMultiSelect);
     Spec.FileMustExist = FOptions.Contains(TOpenOption::ofFileMustExist);
     Spec.OverwritePrompt = FOptions.Contains(TOpenOption::ofOverwritePrompt);
-    OnShow(this);
     std::vector<AnsiString> Chosen;
-    IWindow* const Window = Parent ? Parent->GetWindow() : nullptr;
+    TAliveGuard Guard(*this);
     const bool HasChosen = Platform().Windows().Dialogs().ChooseFile(Spec, Chosen, Window) && !Chosen.empty();
-    if (HasChosen) {
-        FFilterIndex = Spec.FilterIndex;
-        FFileName = Chosen.front();
-        FFiles.Clear();
-        for (const AnsiString& File : Chosen)
-            FFiles.Add(File);
-    }
-    OnClose(this);
+    if (!HasChosen || !Guard.IsAlive())
+        return false;
+    FFilterIndex = Spec.FilterIndex;
+    FFileName = Chosen.front();
+    FFiles.Clear();
+    for (const AnsiString& File : Chosen)
+        FFiles.Add(File);
+    return true;
+}
+
+bool TOpenDialog::Execute(TWinControl* Parent)
+{
+    TAliveGuard Guard(*this);
+    const TWeak<TWinControl> Over = Parent;
+    OnShow(this);
+    bool HasChosen = false;
+    bool CanClose = true;
+    do {
+        if (!Guard.IsAlive())
+            return false;
+        CanClose = true;
+        HasChosen = Choose(Over.Get() ? Over.Get()->GetWindow() : nullptr);
+        if (HasChosen)
+            OnCanClose(this, CanClose);
+    } while (!CanClose);
+    if (Guard.IsAlive())
+        OnClose(this);
     return HasChosen;
 }
 

@@ -37,6 +37,17 @@ struct TypeTraits<TOpenOption> {
     static constexpr const char* SetName = "TOpenOptions";
 };
 
+enum class TOpenOptionEx { ofExNoPlacesBar };
+using TOpenOptionsEx = TSet<TOpenOptionEx>;
+template <>
+struct TypeTraits<TOpenOptionEx> {
+    static const TTypeInfo& Info();
+    static constexpr const char* SetName = "TOpenOptionsEx";
+};
+
+/// CanClose false: the dialog opens again.
+using TCanCloseEvent = TEvent<void(TObject* Sender, bool& CanClose)>;
+
 /// The platform's dialog to choose a file to open.
 ///
 ///     if (OpenDialog->Execute())
@@ -47,6 +58,13 @@ class TOpenDialog : public TComponent
 public:
     explicit TOpenDialog(TComponent* Owner);
 
+    /// Kept for form files, as are HelpContext and OptionsEx.
+    bool GetCtl3D() const { return FCtl3D; }
+    void SetCtl3D(bool Value) { FCtl3D = Value; }
+    int GetHelpContext() const { return FHelpContext; }
+    void SetHelpContext(int Value) { FHelpContext = Value; }
+    TOpenOptionsEx GetOptionsEx() const { return FOptionsEx; }
+    void SetOptionsEx(TOpenOptionsEx Value) { FOptionsEx = Value; }
     /// Added to a name that is typed without extension; without the dot.
     const AnsiString& GetDefaultExt() const { return FDefaultExt; }
     void SetDefaultExt(const AnsiString& Value) { FDefaultExt = Value; }
@@ -71,6 +89,11 @@ public:
     /// Shows the dialog over Parent (null: over the program). False when it was cancelled.
     bool Execute(TWinControl* Parent = nullptr);
 
+    /// For TAliveGuard.
+    const TLiveness& GetLiveness() const { return FLiveness; }
+
+    /// After a choice, with FileName, Files and FilterIndex set to it.
+    TCanCloseEvent OnCanClose;
     TNotifyEvent OnClose;
     TNotifyEvent OnShow;
 
@@ -78,6 +101,9 @@ protected:
     virtual bool IsSaving() const { return false; }
 
 private:
+    bool Choose(IWindow* Window);
+
+    TLiveness FLiveness;
     AnsiString FDefaultExt;
     AnsiString FFileName;
     AnsiString FFilter;
@@ -85,6 +111,9 @@ private:
     AnsiString FTitle;
     TStringList FFiles;
     int FFilterIndex = 1;
+    int FHelpContext = 0;
+    TOpenOptionsEx FOptionsEx;
+    bool FCtl3D = true;
     TOpenOptions FOptions{TOpenOption::ofHideReadOnly, TOpenOption::ofEnableSizing};
 };
 

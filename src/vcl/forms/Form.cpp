@@ -13,13 +13,18 @@ const TClass& TForm::StaticClass()
             Publish("Height").Stored<&T::IsFormSizeStored>(),
             Published<&T::GetActiveControl, &T::SetActiveControl>("ActiveControl"),
             Publish("Align"),
+            Published<&T::GetAlphaBlend, &T::SetAlphaBlend>("AlphaBlend").Default(false),
+            Published<&T::GetAlphaBlendValue, &T::SetAlphaBlendValue>("AlphaBlendValue").Default(255),
             Publish("Anchors"),
+            Published<&T::GetAutoScroll, &T::SetAutoScroll>("AutoScroll").Default(true),
+            Publish("AutoSize"),
             Publish("BiDiMode"),
             Published<&T::GetBorderIcons, &T::SetBorderIcons>("BorderIcons")
                 .Default(TBorderIcons{TBorderIcon::biSystemMenu, TBorderIcon::biMinimize,
                                       TBorderIcon::biMaximize}),
             Published<&T::GetBorderStyle, &T::SetBorderStyle>("BorderStyle")
                 .Default(TFormBorderStyle::bsSizeable),
+            Published<&T::GetBorderWidth, &T::SetBorderWidth>("BorderWidth").Default(0),
             Publish("Caption"),
             Published<&T::GetClientHeight, &T::SetClientHeight>("ClientHeight")
                 .Stored<&T::IsClientSizeStored>(),
@@ -28,6 +33,8 @@ const TClass& TForm::StaticClass()
             Publish("Constraints"),
             Publish("Ctl3D"),
             Publish("UseDockManager"),
+            Published<&T::GetDefaultMonitor, &T::SetDefaultMonitor>("DefaultMonitor")
+                .Default(TDefaultMonitor::dmActiveForm),
             Publish("DockSite"),
             Publish("DragKind"),
             Publish("DragMode"),
@@ -35,6 +42,9 @@ const TClass& TForm::StaticClass()
             Publish("ParentFont").Default(false),
             Publish("Font"),
             Published<&T::GetFormStyle, &T::SetFormStyle>("FormStyle").Default(TFormStyle::fsNormal),
+            Published<&T::GetHelpFile, &T::SetHelpFile>("HelpFile"),
+            Published<&T::GetHorzScrollBar, &T::SetHorzScrollBar>("HorzScrollBar"),
+            Published<&T::GetIcon, &T::SetIcon>("Icon"),
             Published<&T::GetKeyPreview, &T::SetKeyPreview>("KeyPreview").Default(false),
             Published<&T::GetMenu, &T::SetMenu>("Menu"),
             Published<&T::GetOldCreateOrder, &T::SetOldCreateOrder>("OldCreateOrder"),
@@ -42,8 +52,16 @@ const TClass& TForm::StaticClass()
             Published<&T::GetPixelsPerInch, &T::SetPixelsPerInch>("PixelsPerInch").NeverStored(),
             Publish("PopupMenu"),
             Published<&T::GetPosition, &T::SetPosition>("Position").Default(TPosition::poDesigned),
+            Published<&T::GetPrintScale, &T::SetPrintScale>("PrintScale")
+                .Default(TPrintScale::poProportional),
             Published<&T::GetScaled, &T::SetScaled>("Scaled").Default(true),
+            Published<&T::GetScreenSnap, &T::SetScreenSnap>("ScreenSnap").Default(false),
             Publish("ShowHint"),
+            Published<&T::GetSnapBuffer, &T::SetSnapBuffer>("SnapBuffer").Default(10),
+            Published<&T::GetTransparentColor, &T::SetTransparentColor>("TransparentColor").Default(false),
+            Published<&T::GetTransparentColorValue, &T::SetTransparentColorValue>("TransparentColorValue")
+                .Default(clBlack),
+            Published<&T::GetVertScrollBar, &T::SetVertScrollBar>("VertScrollBar"),
             Publish("Visible").Default(false),
             Published<&T::GetWindowState, &T::SetWindowState>("WindowState").Default(TWindowState::wsNormal),
             Published<&T::OnActivate>("OnActivate"),
@@ -74,11 +92,28 @@ const TClass& TForm::StaticClass()
             Publish("OnMouseWheelUp"),
             Published<&T::OnPaint>("OnPaint"),
             Publish("OnResize"),
+            Published<&T::OnShortCut>("OnShortCut"),
             Published<&T::OnShow>("OnShow"),
             Publish("OnStartDock"),
             Publish("OnUnDock"),
         });
     return Class;
+}
+
+TForm::TForm(TComponent* Owner)
+    : TCustomForm(Owner), FHorzScrollBar(std::make_unique<TControlScrollBar>()),
+      FVertScrollBar(std::make_unique<TControlScrollBar>()), FIcon(std::make_unique<TIcon>())
+{
+}
+
+TForm::~TForm() = default;
+
+bool TForm::IsShortCut(std::uint16_t Key, TShiftState Shift)
+{
+    TAliveGuard Guard(*this);
+    bool Handled = false;
+    OnShortCut(this, Key, Shift, Handled);
+    return Handled || Key == 0 || !Guard.IsAlive() || TCustomForm::IsShortCut(Key, Shift);
 }
 
 } // namespace vcl

@@ -46,7 +46,7 @@ public:
     /// Answers ChosenCommand.
     unsigned PopupMenu(const TMenuSpec& Menu, TPoint Screen, IWindow* Window) override;
     IClipboard& Clipboard() override { return *FClipboard; }
-    IDialogs& Dialogs() override { return *FDialogs; }
+    IDialogs& Dialogs() override { return FOtherDialogs ? *FOtherDialogs : *FDialogs; }
     void Beep() override { Log("beep"); }
     void SetListener(ISystemListener* Listener) override { FListener = Listener; }
 
@@ -96,6 +96,9 @@ public:
     std::vector<AnsiString> ChosenFiles;
     TMessageButton ChosenButton = TMessageButton::Ok;
 
+    /// Dialogs of the test's own, in place of those that give the prepared answers; null: those again.
+    void UseDialogs(IDialogs* Dialogs) { FOtherDialogs = Dialogs; }
+
     // For windows
     void FocusWindow(TWindow* Window);
     void CaptureWindow(TWindow* Window);
@@ -142,6 +145,7 @@ private:
     std::vector<std::string> FLog;
     std::unique_ptr<IClipboard> FClipboard;
     std::unique_ptr<IDialogs> FDialogs;
+    IDialogs* FOtherDialogs = nullptr;
     ISystemListener* FListener = nullptr;
     TWindow* FFocused = nullptr;
     TWindow* FCaptured = nullptr;
