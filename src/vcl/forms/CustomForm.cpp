@@ -21,7 +21,6 @@ TCustomForm::TCustomForm(TComponent* Owner) : TCustomControl(Owner)
     SetVisible(false);
     SetParentColor(false);
     SetParentFont(false);
-    SetParentCtl3D(false);
     SetColor(clBtnFace);
     FWidth = 320;
     FHeight = 240;

@@ -29,7 +29,8 @@ const TClass& TForm::StaticClass()
             Published<&T::GetClientHeight, &T::SetClientHeight>("ClientHeight")
                 .Stored<&T::IsClientSizeStored>(),
             Published<&T::GetClientWidth, &T::SetClientWidth>("ClientWidth").Stored<&T::IsClientSizeStored>(),
-            Publish("Color").Default(clBtnFace),
+            // Always written, as form files have it.
+            Publish("Color").NoDefault(),
             Publish("Constraints"),
             Publish("Ctl3D"),
             Publish("UseDockManager"),
