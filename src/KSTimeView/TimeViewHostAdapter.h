@@ -16,6 +16,7 @@ public:
     timeview::TViewGeometry Geometry() const override { return FView.Geometry(); }
 
     void Repaint() override { FView.Invalidate(); }
+    void RepaintDays(int Left, int Right) override;
     void RepaintRect(const vcl::TRect& Rect) override;
     void UpdateScrollBar() override { FView.UpdateVScrollBar(); }
     void PaintDay(TKSTimeviewDay& Day) override { FView.PaintDay(Day); }

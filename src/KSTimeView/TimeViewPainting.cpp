@@ -19,6 +19,11 @@ public:
     }
 
     bool DrawsItems() const override { return Wants(TKSTVCustomDrawOption::cdoItems) && FView.OnDrawItem; }
+    bool DrawsDays() const override
+    {
+        return DrawsItems() || (Wants(TKSTVCustomDrawOption::cdoCaptions) && FView.OnDrawCaption) ||
+               (Wants(TKSTVCustomDrawOption::cdoDays) && (FView.OnDrawDay || FView.OnDrawTopSpace));
+    }
     bool DrawRuler(const vcl::TRect& Rect, int YOffset) override
     {
         return Wants(TKSTVCustomDrawOption::cdoRuler) && Raise(FView.OnDrawRuler, Rect, YOffset);

@@ -9,6 +9,13 @@ namespace timeview
 
 int TItemSequence::IndexOf(const TKSTimeViewItem* Item) const
 {
+    // Clearing takes the first again and again, and much else the last.
+    if (IsEmpty())
+        return -1;
+    if (FItems[FFirst] == Item)
+        return 0;
+    if (FItems.back() == Item)
+        return GetCount() - 1;
     auto Found = end();
     if (FInSerialOrder)
         Found = std::lower_bound(

@@ -45,8 +45,12 @@ void TTimeViewDays::SetDay(int Index, TKSTimeviewDay* Day)
 void TTimeViewDays::Renumber()
 {
     ++FRevision;
-    for (int Index = GetCount() - 1; Index >= 0; --Index)
-        FDays[static_cast<std::size_t>(Index)]->FIndex = Index;
+    for (int Index = GetCount() - 1; Index >= 0; --Index) {
+        TKSTimeviewDay& Day = *FDays[static_cast<std::size_t>(Index)];
+        // Items keep columns by position.
+        Day.FIsArranged = Day.FIsArranged && Day.FIndex == Index;
+        Day.FIndex = Index;
+    }
 }
 
 void TTimeViewDays::AllocDays(int Count)
@@ -226,8 +230,7 @@ void TTimeViewDays::Layout()
         DivideWidth(FInput.ClientWidth, FInput.ShowRuler, FInput.RulerWidth, GetCount());
     int LargestAllDayCount = 0;
     for (std::size_t Index = 0; Index < FDays.size(); ++Index) {
-        FDays[Index]->SetExtent(Columns[Index]);
-        FDays[Index]->ArrangeItems();
+        FDays[Index]->Arrange(Columns[Index], FIsEager);
         LargestAllDayCount = std::max(LargestAllDayCount, FDays[Index]->FAllDayCount);
     }
     // One spare row stays below the all-day items.

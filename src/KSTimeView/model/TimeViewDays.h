@@ -24,6 +24,7 @@ struct TViewFrame {
 ///  - BeginUpdate, DestroyWnd, changes to the list of days, items leaving a day and raw writes of items
 ///    (Assign, ReadData, DragOutside) compute what is due before they change anything;
 ///  - what else changes between two layouts, adding items and setting times, is placed entirely by the
+/// A layout arranges the days on which something has changed since the last one.
 ///  second.
 class TTimeViewDays
 {
@@ -85,8 +86,8 @@ public:
     int GetTopSpace();
     /// What all rectangles are computed from, as it is now.
     TViewFrame Frame();
-    /// Lays out at every CalcDisplay instead of when a result is read. The results are the same; for
-    /// comparing.
+    /// Lays out everything at every CalcDisplay, instead of what has changed when a result is read. The
+    /// results are the same; for comparing.
     void SetEager(bool Value) { FIsEager = Value; }
 
     // For the days

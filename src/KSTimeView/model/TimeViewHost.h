@@ -54,6 +54,8 @@ public:
     virtual TViewGeometry Geometry() const = 0;
 
     virtual void Repaint() = 0;
+    /// Timed items of the days between two pixel columns have changed: repaints these and the ruler.
+    virtual void RepaintDays(int Left, int Right) = 0;
     virtual void RepaintRect(const vcl::TRect& Rect) = 0;
     virtual void UpdateScrollBar() = 0;
     virtual void PaintDay(TKSTimeviewDay& Day) = 0;

@@ -1,5 +1,8 @@
 #include "KSTimeView/model/TimeViewItem.h"
 
+#include <algorithm>
+#include <climits>
+
 #include "KSTimeView/model/TimeViewDays.h"
 #include "KSTimeView/model/TimeViewItems.h"
 #include "KSTimeView/model/TimeviewDay.h"
@@ -135,7 +138,7 @@ void TKSTimeViewItem::SetAllDay(bool Value)
         return;
     FlushBeforeLeavingDays(FStartTime, FEndTime);
     FAllDay = Value;
-    PlacementChanged();
+    PlacementChanged(!Value);
 }
 
 void TKSTimeViewItem::StoreTimes(vcl::TDateTime Start, vcl::TDateTime End)
@@ -143,7 +146,7 @@ void TKSTimeViewItem::StoreTimes(vcl::TDateTime Start, vcl::TDateTime End)
     FlushBeforeLeavingDays(Start, End);
     FStartTime = Start;
     FEndTime = End;
-    PlacementChanged();
+    PlacementChanged(FAllDay);
 }
 
 /// An item keeps the column it had on a day it left. A layout that is still due must give it that column
@@ -160,14 +163,62 @@ void TKSTimeViewItem::FlushBeforeLeavingDays(vcl::TDateTime Start, vcl::TDateTim
         }
 }
 
-void TKSTimeViewItem::PlacementChanged()
+namespace
+{
+
+/// The columns of the days that a change of an item touches.
+struct TTouched {
+    int Left = INT_MAX;
+    int Right = INT_MIN;
+
+    void AddDaysOf(const TKSTimeViewItem& Item, const TTimeViewDays& Days)
+    {
+        for (const TKSTimeviewDay* Day : Days)
+            if (Day->HasItem(&Item)) {
+                Left = std::min(Left, Day->GetExtent().Left);
+                Right = std::max(Right, timeview::SaturatedInt(std::int64_t{Day->GetExtent().Left} +
+                                                               Day->GetExtent().Width));
+            }
+    }
+    bool IsEmpty() const { return Left > Right; }
+};
+
+} // namespace
+
+/// Puts the item on its days, asks for a layout and repaints the days it was and is on. An all-day item can
+/// move the whole scale.
+void TKSTimeViewItem::PlacementChanged(bool WasAllDay)
 {
     IViewHost* const View = FInCollection ? Host() : nullptr;
     if (!View)
         return;
+    TTouched Touched;
+    Touched.AddDaysOf(*this, View->Days());
+    MarkDaysChanged();
     ReattachToDays();
     View->Days().CalcDisplay();
-    View->Repaint();
+    Touched.AddDaysOf(*this, View->Days());
+    if (Touched.IsEmpty())
+        return;
+    if (FAllDay || WasAllDay)
+        View->Repaint();
+    else
+        View->RepaintDays(Touched.Left, Touched.Right);
+}
+
+bool TKSTimeViewItem::MayBeOnDays() const
+{
+    return FDayMarks != 0 || (FInCollection && Host() && Host()->Days().HasUnmarkedDays());
+}
+
+/// The next layout arranges the days that hold the item anew.
+void TKSTimeViewItem::MarkDaysChanged()
+{
+    if (!MayBeOnDays())
+        return;
+    for (TKSTimeviewDay* Day : Host()->Days().GetAllDays())
+        if (Day->HasItem(this))
+            Day->FIsArranged = false;
 }
 
 void TKSTimeViewItem::ReattachToDays()
@@ -248,6 +299,7 @@ void TKSTimeViewItem::SetDragOutside(bool Value)
     if (IViewHost* const View = FInCollection ? Host() : nullptr)
         View->Days().EnsureLayout();
     FDragOutside = Value;
+    MarkDaysChanged();
 }
 
 int TKSTimeViewItem::GetColumn(int DayIndex) const
@@ -301,13 +353,16 @@ void TKSTimeViewItem::Assign(const vcl::TPersistent* Source)
     FPrivateItem = Item->FPrivateItem;
     FUserText = Item->FUserText;
     FUserFlag = Item->FUserFlag;
+    MarkDaysChanged();
 }
 
 void TKSTimeViewItem::ReadData(vcl::TStream& Stream)
 {
     // A layout that is due must still see the old times, which matters only when a day holds the item.
-    if (FDayMarks != 0 || (FInCollection && Host() && Host()->Days().HasUnmarkedDays()))
+    if (MayBeOnDays()) {
         Host()->Days().EnsureLayout();
+        MarkDaysChanged();
+    }
     Stream.ReadInt32();
     FCaption = Stream.ReadCountedString();
     FStartTime = Stream.ReadDouble();

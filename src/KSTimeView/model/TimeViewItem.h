@@ -133,7 +133,9 @@ private:
     timeview::IViewHost* Host() const;
     void StoreTimes(vcl::TDateTime Start, vcl::TDateTime End);
     void FlushBeforeLeavingDays(vcl::TDateTime Start, vcl::TDateTime End) const;
-    void PlacementChanged();
+    void PlacementChanged(bool WasAllDay);
+    void MarkDaysChanged();
+    bool MayBeOnDays() const;
     void Repaint() const;
     void LeaveCollection();
 

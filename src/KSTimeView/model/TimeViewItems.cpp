@@ -73,7 +73,7 @@ TKSTimeViewItem* TKSTimeViewItems::AddObject(const vcl::AnsiString& Caption, vcl
     Item->FEndTime = EndTime;
     Item->FAllDay = AllDay;
     Item->FData = Data;
-    Item->PlacementChanged();
+    Item->PlacementChanged(AllDay);
     return Item;
 }
 

@@ -104,6 +104,7 @@ void TKSTimeviewDay::Attach(TKSTimeViewItem* Item)
     else
         FMembers.insert(Item);
     FList.Append(Item);
+    FIsArranged = false;
 }
 
 void TKSTimeviewDay::Detach(TKSTimeViewItem* Item)
@@ -114,6 +115,7 @@ void TKSTimeviewDay::Detach(TKSTimeViewItem* Item)
         FMembers.erase(Item);
     FColumns.erase(Item);
     FList.Remove(Item);
+    FIsArranged = false;
 }
 
 void TKSTimeviewDay::DetachAll()
@@ -205,8 +207,20 @@ void TKSTimeviewDay::CalcItemsDisplay()
     ArrangeItems();
 }
 
+/// For a layout of the view. All-day rows are given anew each time, because those of one day depend on the
+/// days before it; columns only when something on this day has changed.
+void TKSTimeviewDay::Arrange(const timeview::TDayColumn& Extent, bool Anew)
+{
+    FExtent = Extent;
+    if (Anew || !FIsArranged)
+        ArrangeItems();
+    else if (FAllDayCount > 0)
+        ArrangeAllDayItems();
+}
+
 void TKSTimeviewDay::ArrangeItems()
 {
+    FIsArranged = true;
     FColumns.clear();
     FAllDayCount = 0;
     for (TKSTimeViewItem* Item : FList) {

@@ -50,6 +50,8 @@ public:
     vcl::TDateTime GetItemsEnd() const;
 
     // Layout; pixels in the view's client area
+    /// Left and width as last laid out, without waiting for a layout that is due.
+    const timeview::TDayColumn& GetExtent() const { return FExtent; }
     int GetLeft() const;
     int GetWidth() const;
     /// Columns of timed items side by side: at least 1 once laid out.
@@ -87,7 +89,7 @@ private:
     void Attach(TKSTimeViewItem* Item);
     void Detach(TKSTimeViewItem* Item);
     void DetachAll();
-    void SetExtent(const timeview::TDayColumn& Extent) { FExtent = Extent; }
+    void Arrange(const timeview::TDayColumn& Extent, bool Anew);
     void ArrangeItems();
     void ArrangeAllDayItems();
     void ArrangeTimedItems();
@@ -101,7 +103,8 @@ private:
     vcl::TDateTime FDate;
     timeview::TDayColumn FExtent;
     int FIndex = -1;
-    int FMark; // the bit that items on this day carry, -1 when there was none left
+    int FMark;                // the bit that items on this day carry, -1 when there was none left
+    bool FIsArranged = false; // columns are those of the items as they are
     bool FShowWorkingHours = false;
     vcl::TTime FBeginWork = 8.0 / 24;
     vcl::TTime FEndWork = 17.5 / 24;

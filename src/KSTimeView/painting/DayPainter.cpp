@@ -1,5 +1,7 @@
 #include "KSTimeView/painting/DayPainter.h"
 
+#include <algorithm>
+
 #include "KSTimeView/model/TimeViewItem.h"
 #include "KSTimeView/model/TimeviewDay.h"
 #include "KSTimeView/painting/CanvasTools.h"
@@ -50,6 +52,12 @@ void TDayPainter::Paint() const
         &TDayPainter::PaintSelectedItems, &TDayPainter::PaintTopSpace,    &TDayPainter::PaintAllDayItems,
         &TDayPainter::PaintCaption,       &TDayPainter::PaintBottomSpace,
     };
+    // What a day paints beside its column, all-day items of several days, the other days paint as well; only
+    // the bars of a selected item reach into the gap.
+    const int Reach = std::max(FFrame.Geometry.DaysGapWidth, 0) + 1;
+    if (!FOwner.DrawsDays() &&
+        FCanvas.IsClippedOut({FLeft - Reach, 0, FRight + Reach, FFrame.Geometry.ClientHeight}))
+        return;
     for (const TStep Step : Steps) {
         (this->*Step)();
         if (FOwner.Interrupted())

@@ -65,6 +65,8 @@ class IOwnerDraw
 {
 public:
     virtual bool DrawsItems() const = 0;
+    /// Whether it draws any part of a day, so that each day must be gone through whatever is visible.
+    virtual bool DrawsDays() const = 0;
     virtual bool DrawRuler(const vcl::TRect& Rect, int YOffset) = 0;
     virtual bool DrawDay(TKSTimeviewDay* Day, const vcl::TRect& Rect, int YOffset) = 0;
     virtual bool DrawTopSpace(TKSTimeviewDay* Day, const vcl::TRect& Rect) = 0;

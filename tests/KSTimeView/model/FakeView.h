@@ -38,6 +38,7 @@ public:
         if (!FItems->IsUpdating())
             Log.push_back("repaint");
     }
+    void RepaintDays(int, int) override { Repaint(); }
     void RepaintRect(const vcl::TRect& Rect) override
     {
         Log.push_back("repaint " + std::to_string(Rect.Left) + ".." + std::to_string(Rect.Right));
