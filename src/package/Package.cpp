@@ -1,9 +1,10 @@
 #include "package/Package.h"
 
 #include "KSTimeView/KSTimeView.h"
+#include "KSTreeView/KSTreeView.h"
 #include "vcl/classes/Component.h"
 
 void RegisterKSSuite()
 {
-    vcl::RegisterClasses({&TKSTimeView::StaticClass()});
+    vcl::RegisterClasses({&TKSTimeView::StaticClass(), &TKSTreeView::StaticClass()});
 }
