@@ -14,8 +14,10 @@ namespace planner
 
 const char* const UsageText =
     "usage: kssuite-planner [OPTION...] [FILE.ics...]\n"
+    "       kssuite-planner [OPTION...] FILE.txt\n"
     "\n"
     "Shows iCalendar files in a day planner. Without files it opens what it showed last.\n"
+    "An indented text file (.txt or .tree) is shown as an organisation chart.\n"
     "\n"
     "  --date YYYY-MM-DD  the first day shown\n"
     "  --days N           the number of days, 1 to 31\n"

@@ -4,6 +4,8 @@
 #include <memory>
 #include <stdexcept>
 
+#include "planner/ChartFile.h"
+#include "planner/ChartForm.h"
 #include "planner/FormTexts.h"
 #include "planner/Options.h"
 #include "planner/PlannerForm.h"
@@ -17,13 +19,24 @@
 namespace
 {
 
-std::unique_ptr<planner::TPlannerForm> MakeForm()
+template <class TForm>
+std::unique_ptr<TForm> MakeForm(const char* Name)
 {
     vcl::RegisterStandardClasses();
     vcl::RegisterClass(TKSTimeView::StaticClass());
-    std::unique_ptr<planner::TPlannerForm> Form(vcl::New<planner::TPlannerForm>(nullptr));
-    planner::ReadForm(*Form, "planner");
+    vcl::RegisterClass(TKSTreeView::StaticClass());
+    std::unique_ptr<TForm> Form(vcl::New<TForm>(nullptr));
+    planner::ReadForm(*Form, Name);
     return Form;
+}
+
+bool WantsChart(const planner::TOptions& Options)
+{
+    if (Options.Files.empty() || !planner::IsChartFile(Options.Files.front()))
+        return false;
+    if (Options.Files.size() > 1)
+        throw std::invalid_argument("a chart is shown alone: " + Options.Files.front());
+    return true;
 }
 
 void TakePicture(const planner::TOptions& Options)
@@ -33,15 +46,33 @@ void TakePicture(const planner::TOptions& Options)
     vcl::Application().OnException = [](vcl::TObject*, const std::exception& Error) {
         throw std::runtime_error(Error.what());
     };
-    const auto Form = MakeForm();
+    if (WantsChart(Options)) {
+        const auto Chart = MakeForm<planner::TChartForm>("chart");
+        Chart->Start(Options);
+        Chart->LoadFile(Options.Files.front());
+        return vcl::SaveSnapshot(*Chart, Options.Screenshot, Options.Scale);
+    }
+    const auto Form = MakeForm<planner::TPlannerForm>("planner");
     planner::TCalendarSet().Load(Options.Files);
     Form->Start({}, Options);
     vcl::SaveSnapshot(*Form, Options.Screenshot, Options.Scale);
 }
 
+void RunChart(const planner::TOptions& Options)
+{
+    const auto Form = MakeForm<planner::TChartForm>("chart");
+    vcl::Application().SetTitle("Chart");
+    vcl::Application().SetMainForm(Form.get());
+    Form->Start(Options);
+    Form->OpenFile(Options.Files.front());
+    vcl::Application().Run();
+}
+
 void Run(const planner::TOptions& Options)
 {
-    const auto Form = MakeForm();
+    if (WantsChart(Options))
+        return RunChart(Options);
+    const auto Form = MakeForm<planner::TPlannerForm>("planner");
     Form->OnRemember = planner::SaveState;
     vcl::Application().SetTitle("Planner");
     vcl::Application().SetMainForm(Form.get());

@@ -1,5 +1,6 @@
 #include "vcl/qt/VectorFile.h"
 
+#include <QFileInfo>
 #include <QImage>
 #include <QPdfWriter>
 #include <QPrintDialog>
@@ -28,6 +29,11 @@ constexpr double PointsPerUnit = 72.0 / UnitsPerInch;
 [[noreturn]] void RaiseCannotWrite(const AnsiString& FileName, const QString& Reason)
 {
     throw EFCreateError("Cannot write \"" + FileName + "\": " + qt::FromQt(Reason));
+}
+
+QString TitleOf(const AnsiString& FileName)
+{
+    return QFileInfo(qt::ToQt(FileName)).completeBaseName();
 }
 
 void CheckPage(TSize Page)
@@ -87,6 +93,7 @@ void SavePdf(const AnsiString& FileName, TSize Page, const TDrawing& Draw)
     WriteFile(FileName, Page, [&](QSaveFile& File) {
         QPdfWriter Writer(&File);
         Writer.setResolution(UnitsPerInch);
+        Writer.setTitle(TitleOf(FileName));
         const QSizeF Points(Page.Width * PointsPerUnit, Page.Height * PointsPerUnit);
         Writer.setPageSize(QPageSize(Points, QPageSize::Point, {}, QPageSize::ExactMatch));
         Writer.setPageMargins(QMarginsF());
@@ -100,6 +107,8 @@ void SaveSvg(const AnsiString& FileName, TSize Page, const TDrawing& Draw)
         QSvgGenerator Generator;
         Generator.setOutputDevice(&File);
         Generator.setResolution(UnitsPerInch);
+        Generator.setTitle(TitleOf(FileName));
+        Generator.setDescription({});
         Generator.setSize(QSize(Page.Width, Page.Height));
         Generator.setViewBox(QRect(0, 0, Page.Width, Page.Height));
         return DrawOn(Generator, Page, Draw);
