@@ -131,7 +131,7 @@ void AllDayRows(TScene& Scene)
 
 void OwnerDrawn(TScene& Scene)
 {
-    Week(Scene);
+    OneDay(Scene);
     TKSTimeView& View = ViewOf(Scene);
     View.SetCustomDrawOptions({TKSTVCustomDrawOption::cdoItems, TKSTVCustomDrawOption::cdoCaptions});
     View.OnDrawItem = [](vcl::TObject*, vcl::TCanvas* Canvas, TKSTimeViewItem* Item, const vcl::TRect& Rect) {

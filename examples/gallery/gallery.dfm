@@ -55,9 +55,9 @@ object GalleryForm: TGalleryForm
     end
   end
   object RightPanel: TPanel
-    Left = 860
+    Left = 800
     Top = 0
-    Width = 320
+    Width = 380
     Height = 697
     Align = alRight
     BevelOuter = bvNone
@@ -66,7 +66,7 @@ object GalleryForm: TGalleryForm
     object EditorPanel: TPanel
       Left = 6
       Top = 6
-      Width = 308
+      Width = 368
       Height = 54
       Align = alTop
       BevelOuter = bvNone
@@ -74,7 +74,7 @@ object GalleryForm: TGalleryForm
       object NameLabel: TLabel
         Left = 0
         Top = 2
-        Width = 308
+        Width = 368
         Height = 16
         Anchors = [akLeft, akTop, akRight]
         AutoSize = False
@@ -84,7 +84,7 @@ object GalleryForm: TGalleryForm
       object ValueEdit: TEdit
         Left = 0
         Top = 22
-        Width = 308
+        Width = 368
         Height = 26
         Anchors = [akLeft, akTop, akRight]
         Enabled = False
@@ -95,7 +95,7 @@ object GalleryForm: TGalleryForm
       object ValueBox: TComboBox
         Left = 0
         Top = 22
-        Width = 308
+        Width = 368
         Height = 26
         Style = csDropDownList
         Anchors = [akLeft, akTop, akRight]
@@ -109,17 +109,17 @@ object GalleryForm: TGalleryForm
     object PropertyList: TListView
       Left = 6
       Top = 60
-      Width = 308
+      Width = 368
       Height = 631
       Align = alClient
       Columns = <
         item
           Caption = 'Property'
-          Width = 168
+          Width = 190
         end
         item
           Caption = 'Value'
-          Width = 110
+          Width = 156
         end>
       ColumnClick = False
       HideSelection = False
@@ -135,7 +135,7 @@ object GalleryForm: TGalleryForm
   object Stage: TPanel
     Left = 190
     Top = 0
-    Width = 670
+    Width = 610
     Height = 697
     Align = alClient
     BevelOuter = bvNone
