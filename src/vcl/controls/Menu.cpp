@@ -102,8 +102,9 @@ void TMenu::SetImages(TCustomImageList* Value)
 {
     if (FImages == Value)
         return;
-    if (FImages)
-        FImages->UnregisterChanges(&FImagesLink);
+    // A list that dies has let go of the link already.
+    if (TCustomImageList* const Old = FImagesLink.GetSender())
+        Old->UnregisterChanges(&FImagesLink);
     FImages = Value;
     if (FImages) {
         FImages->RegisterChanges(&FImagesLink);
@@ -144,7 +145,8 @@ void TMenu::SetPopupComponent(TComponent* Component)
 TMenuSpec TMenu::BuildSpec()
 {
     TMenuSpec Spec;
-    Spec.Items = FItems->BuildSpec(FImages).Items;
+    // The link's list, not FImages: of a list that is dying the item may hear before the menu does.
+    Spec.Items = FItems->BuildSpec(FImagesLink.GetSender()).Items;
     Spec.RightToLeft = IsRightToLeft();
     return Spec;
 }

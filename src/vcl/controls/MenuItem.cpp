@@ -148,8 +148,9 @@ void TMenuItem::SetSubMenuImages(TCustomImageList* Value)
 {
     if (FSubMenuImages == Value)
         return;
-    if (FSubMenuImages)
-        FSubMenuImages->UnregisterChanges(&FImagesLink);
+    // A list that dies has let go of the link already.
+    if (TCustomImageList* const Old = FImagesLink.GetSender())
+        Old->UnregisterChanges(&FImagesLink);
     FSubMenuImages = Value;
     if (FSubMenuImages) {
         FSubMenuImages->RegisterChanges(&FImagesLink);
@@ -282,6 +283,8 @@ TMenuSpec::TItem TMenuItem::BuildSpec(const TCustomImageList* Images)
             FGlyph = TGlyph(*FBitmap);
         FGlyphIsMade = true;
     }
+    // The link's list, not FSubMenuImages: of a list that is dying the menu may hear before the item does.
+    const TCustomImageList* const Own = FImagesLink.GetSender();
     TMenuSpec::TItem Spec;
     Spec.Command = FCommand;
     Spec.Caption = FCaption;
@@ -294,7 +297,7 @@ TMenuSpec::TItem TMenuItem::BuildSpec(const TCustomImageList* Images)
     Spec.Glyph = FGlyph.Buffer();
     Spec.Items.reserve(FItems.size());
     for (TMenuItem* Item : FItems)
-        Spec.Items.push_back(Item->BuildSpec(FSubMenuImages ? FSubMenuImages : Images));
+        Spec.Items.push_back(Item->BuildSpec(Own ? Own : Images));
     return Spec;
 }
 

@@ -224,6 +224,24 @@ TEST_F(TMenuTest, PicturesComeFromTheListAndFollowItsChanges)
     EXPECT_EQ(Shown()[0].Glyph.Width, 32);
 }
 
+TEST_F(TMenuTest, AListOfTheSameFormMayDieFirst)
+{
+    TMainMenu& Menu = AddMenu();
+    TMenuItem& Item = AddItem(*Menu.GetItems(), "Item");
+    AddItem(Item, "Inner").SetImageIndex(0);
+    TImageList* const List = New<TImageList>(&Form());
+    TBitmap Bitmap(16, 16);
+    List->Add(&Bitmap, nullptr);
+    Menu.SetImages(List);
+    Item.SetSubMenuImages(List);
+    ShowForm();
+    EXPECT_EQ(Shown()[0].Items[0].Glyph.Width, 16);
+    delete List;
+    EXPECT_EQ(Menu.GetImages(), nullptr);
+    EXPECT_EQ(Item.GetSubMenuImages(), nullptr);
+    EXPECT_EQ(Shown()[0].Items[0].Glyph.Width, 0);
+}
+
 TEST_F(TMenuTest, TheMenuRunsInTheDirectionOfItsForm)
 {
     TMainMenu& Menu = AddMenu();
