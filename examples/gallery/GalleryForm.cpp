@@ -115,11 +115,9 @@ void TGalleryForm::ShowState(const TState& State)
     FillLists(State);
     MakeControl(State);
     FInspector.SetObject(FControl);
+    FFinishDue = true;
     if (GetShowing())
         FinishState();
-    else
-        FFinishDue = true;
-    RefreshRows();
     Tell(vcl::AnsiString(State.Page) + ", " + State.Name);
 }
 
@@ -163,11 +161,12 @@ void TGalleryForm::MakeControl(const TState& State)
 void TGalleryForm::FinishState()
 {
     FFinishDue = false;
-    if (!FControl || !FState->Shown)
-        return;
-    FControl->HandleNeeded();
-    TScene Scene{*FControl, *FIcons};
-    FState->Shown(Scene);
+    if (FControl && FState->Shown) {
+        FControl->HandleNeeded();
+        TScene Scene{*FControl, *FIcons};
+        FState->Shown(Scene);
+    }
+    RefreshRows();
 }
 
 void TGalleryForm::DoShow()
@@ -184,7 +183,6 @@ void TGalleryForm::Dispatch(vcl::TMessage& Message)
     }
     if (FFinishDue)
         FinishState();
-    RefreshRows();
 }
 
 void TGalleryForm::PageChange(vcl::TObject*)

@@ -136,13 +136,17 @@ void OwnerDrawn(TScene& Scene)
     View.SetCustomDrawOptions({TKSTVCustomDrawOption::cdoItems, TKSTVCustomDrawOption::cdoCaptions});
     View.OnDrawItem = [](vcl::TObject*, vcl::TCanvas* Canvas, TKSTimeViewItem* Item, const vcl::TRect& Rect) {
         Canvas->GetPen()->SetColor(vcl::TColor(0x806040));
+        Canvas->GetPen()->SetStyle(vcl::TPenStyle::psSolid);
+        Canvas->GetBrush()->SetStyle(vcl::TBrushStyle::bsSolid);
         Canvas->GetBrush()->SetColor(vcl::TColor(0xF0DCC8));
         Canvas->RoundRect(Rect.Left, Rect.Top, Rect.Right, Rect.Bottom, 12, 12);
+        Canvas->GetBrush()->SetStyle(vcl::TBrushStyle::bsClear);
         Canvas->GetFont()->SetColor(vcl::TColor(0x603010));
         Canvas->TextRect(Rect, Rect.Left + 6, Rect.Top + 4, Item->GetCaption());
     };
     View.OnDrawCaption = [](vcl::TObject*, vcl::TCanvas* Canvas, const vcl::TRect& Rect,
                             TKSTimeviewDay* Day) {
+        Canvas->GetBrush()->SetStyle(vcl::TBrushStyle::bsSolid);
         Canvas->GetBrush()->SetColor(vcl::TColor(0x806040));
         Canvas->FillRect(Rect);
         Canvas->GetFont()->SetColor(vcl::clWhite);
