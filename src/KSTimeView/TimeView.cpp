@@ -110,9 +110,10 @@ void TKSTimeView::SetImages(vcl::TCustomImageList* Value)
 {
     if (FImages == Value)
         return;
-    if (FImages) {
-        FImages->UnregisterChanges(FImagesLink.get());
-        RemoveFreeNotification(FImages);
+    // A list that dies has let go of the link already, and is no list any more when it tells of its end.
+    if (vcl::TCustomImageList* const Old = FImagesLink->GetSender()) {
+        Old->UnregisterChanges(FImagesLink.get());
+        RemoveFreeNotification(Old);
     }
     FImages = Value;
     if (FImages) {
@@ -233,7 +234,8 @@ void TKSTimeView::CMCtl3DChanged(vcl::TMessage& Message)
 
 void TKSTimeView::SetSelectedItem(TKSTimeViewItem* Value)
 {
-    if (FSelectedItem == Value || (Value && (Value->GetTimeView() != this || !Value->IsInCollection())))
+    // An item on its way out would leave a dangling selection behind.
+    if (FSelectedItem == Value || (Value && (Value->GetTimeView() != this || !Value->IsStaying())))
         return;
     FSelectedItem = Value;
     Invalidate();

@@ -84,7 +84,12 @@ public:
     TKSTVRulerMarkMinutes GetRulerMarkMinutes() const { return FRulerMarkMinutes; }
     void SetRulerMarkMinutes(TKSTVRulerMarkMinutes Value);
     vcl::TDate GetDate() const { return FDays->GetDate(); }
-    void SetDate(vcl::TDate Value) { SetDateRange(Value, GetDaysCount()); }
+    /// Setting another date keeps the number of days, at most 31.
+    void SetDate(vcl::TDate Value)
+    {
+        if (Value != GetDate())
+            SetDateRange(Value, GetDaysCount());
+    }
     /// Minutes; below 1 becomes 1.
     int GetSelectResolution() const { return FSelectResolution; }
     void SetSelectResolution(int Value);

@@ -89,7 +89,7 @@ void TKSTimeView::KeyDown(std::uint16_t& Key, vcl::TShiftState Shift)
         Scroll(TScrollRequest::Top);
         break;
     case vcl::VK_END:
-        Scroll(TScrollRequest::Bottom);
+        Scroll(TScrollRequest::End);
         break;
     default:
         return;

@@ -33,8 +33,8 @@ vcl::TTime TKSTimeView::PosToTime(int Y, int Resolution, bool Nearest) const
 timeview::TScrollMetrics TKSTimeView::ScrollMetrics() const
 {
     const timeview::TViewFrame Frame = FDays->Frame();
-    return {Frame.Geometry.TotalScaleHeight, Frame.Geometry.ClientHeight, Frame.Scale.Top(),
-            Frame.Geometry.RulerMarkHeight, FSmoothScroll};
+    return {Frame.Geometry.TotalScaleHeight, Frame.Geometry.ClientHeight,    Frame.Scale.Top(),
+            GetEffectiveTopSpace(),          Frame.Geometry.RulerMarkHeight, FSmoothScroll};
 }
 
 int TKSTimeView::GetVScrollPosition() const

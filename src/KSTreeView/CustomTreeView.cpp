@@ -82,9 +82,10 @@ void TCustomKSTreeView::SetImages(vcl::TCustomImageList* Value)
 {
     if (FImages == Value)
         return;
-    if (FImages) {
-        FImages->UnregisterChanges(FImagesLink.get());
-        RemoveFreeNotification(FImages);
+    // A list that dies has let go of the link already, and is no list any more when it tells of its end.
+    if (vcl::TCustomImageList* const Old = FImagesLink->GetSender()) {
+        Old->UnregisterChanges(FImagesLink.get());
+        RemoveFreeNotification(Old);
     }
     FImages = Value;
     if (FImages) {

@@ -70,6 +70,8 @@ int RequestedPosition(const TScrollMetrics& Metrics, TScrollRequest Request, int
     case TScrollRequest::Top:
         return 0;
     case TScrollRequest::Bottom:
+        return SaturatedInt(std::int64_t{LastOffset(Metrics)} - 2 * std::int64_t{Metrics.TopSpace});
+    case TScrollRequest::End:
         return LastOffset(Metrics);
     }
     return Offset;

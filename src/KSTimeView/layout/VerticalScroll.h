@@ -9,6 +9,8 @@ struct TScrollMetrics {
     int ClientHeight = 0;
     /// First row of the scale: below captions and all-day area.
     int Top = 0;
+    /// The part of Top that is the all-day area.
+    int TopSpace = 0;
     int MarkHeight = 0;
     /// False: offsets are whole marks.
     bool SmoothScroll = true;
@@ -33,7 +35,9 @@ struct TScrollTarget {
     bool operator==(const TScrollTarget&) const = default;
 };
 
-enum class TScrollRequest { LineUp, LineDown, PageUp, PageDown, Thumb, Top, Bottom };
+/// Bottom is what the scroll bar's own bottom request means: it stands twice the all-day area above the end
+/// of the scale, on purpose. End is the end itself.
+enum class TScrollRequest { LineUp, LineDown, PageUp, PageDown, Thumb, Top, Bottom, End };
 
 TScrollRange ScrollRange(const TScrollMetrics& Metrics, int Offset);
 /// Clamps to what can be scrolled. While the whole scale is visible there is no upper limit, on purpose.

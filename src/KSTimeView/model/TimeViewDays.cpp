@@ -215,11 +215,23 @@ void TTimeViewDays::CalcDisplay()
 {
     if (!FHost.HasWindow() || FHost.Items().IsUpdating())
         return;
-    const TViewGeometry Geometry = FHost.Geometry();
-    FInput = {Geometry.ClientWidth, Geometry.RulerWidth, Geometry.RulerMarkHeight, Geometry.ShowRuler};
+    FInput = CurrentInput();
     FIsDue = true;
     if (FIsEager)
         EnsureLayout();
+}
+
+TTimeViewDays::TLayoutInput TTimeViewDays::CurrentInput() const
+{
+    const TViewGeometry Geometry = FHost.Geometry();
+    return {Geometry.ClientWidth, Geometry.RulerWidth, Geometry.RulerMarkHeight, Geometry.ShowRuler};
+}
+
+bool TTimeViewDays::HasPendingChanges() const
+{
+    return FIsDue || FInput != CurrentInput() ||
+           std::any_of(FDays.begin(), FDays.end(),
+                       [](const TKSTimeviewDay* Day) { return !Day->FIsArranged; });
 }
 
 void TTimeViewDays::Layout()

@@ -75,6 +75,9 @@ public:
     /// Asks for a layout: nothing happens without a window or while the items are being updated.
     void CalcDisplay();
     bool IsLayoutDue() const { return FIsDue; }
+    /// The next layout will show more than what the change under way touches: a layout is due already, days
+    /// were written to without one, or the view has changed since the last one.
+    bool HasPendingChanges() const;
     void EnsureLayout()
     {
         if (FIsDue)
@@ -105,6 +108,7 @@ private:
         int RulerWidth = 0;
         int RulerMarkHeight = 0;
         bool ShowRuler = true;
+        bool operator==(const TLayoutInput&) const = default;
     };
 
     static constexpr std::size_t MarkCount = 64;
@@ -115,6 +119,7 @@ private:
     void DaysChanged();
     void AnnounceNewDays();
     void Layout();
+    TLayoutInput CurrentInput() const;
 
     IViewHost& FHost;
     std::vector<TKSTimeviewDay*> FDays;

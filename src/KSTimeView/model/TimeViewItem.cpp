@@ -185,24 +185,23 @@ struct TTouched {
 
 } // namespace
 
-/// Puts the item on its days, asks for a layout and repaints the days it was and is on. An all-day item can
-/// move the whole scale.
+/// Puts the item on its days, asks for a layout and repaints the days it was and is on; the whole view when
+/// the layout picks up other changes too, or for an all-day item, which can move the whole scale.
 void TKSTimeViewItem::PlacementChanged(bool WasAllDay)
 {
     IViewHost* const View = FInCollection ? Host() : nullptr;
     if (!View)
         return;
+    const bool ReachesFarther = FAllDay || WasAllDay || View->Days().HasPendingChanges();
     TTouched Touched;
     Touched.AddDaysOf(*this, View->Days());
     MarkDaysChanged();
     ReattachToDays();
     View->Days().CalcDisplay();
     Touched.AddDaysOf(*this, View->Days());
-    if (Touched.IsEmpty())
-        return;
-    if (FAllDay || WasAllDay)
+    if (ReachesFarther)
         View->Repaint();
-    else
+    else if (!Touched.IsEmpty())
         View->RepaintDays(Touched.Left, Touched.Right);
 }
 
@@ -432,17 +431,28 @@ void TKSTimeViewItem::LeaveCollection()
 {
     FLeaving = true;
     IViewHost* const View = FInCollection ? Host() : nullptr;
+    // Each step runs whatever the one before has thrown; the first failure comes out at the end.
     std::exception_ptr Failure;
-    try {
+    const auto Step = [&Failure](auto&& Action) {
+        try {
+            Action();
+        } catch (...) {
+            if (!Failure)
+                Failure = std::current_exception();
+        }
+    };
+    Step([&] {
         if (View && Edited() && FEditorGuard == 0)
             View->HideItemEditor(true);
-        if (FOwner && Selected())
+    });
+    Step([&] {
+        if (FOwner && View && Selected())
             View->ClearSelectedItem();
+    });
+    Step([&] {
         if (FOwner && View)
             View->ItemDeleting(this);
-    } catch (...) {
-        Failure = std::current_exception();
-    }
+    });
     if (FOwner && FInCollection)
         FOwner->Detach(this);
     if (Failure)

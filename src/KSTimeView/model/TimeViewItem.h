@@ -87,6 +87,8 @@ public:
 
     // State in the view
     bool IsInCollection() const { return FInCollection; }
+    /// In the collection and not being freed.
+    bool IsStaying() const { return FInCollection && !FLeaving; }
     TKSTimeViewItems* GetCollection() const { return FOwner; }
     /// Null without a collection.
     TKSTimeView* GetTimeView() const;

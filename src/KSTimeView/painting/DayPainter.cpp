@@ -168,7 +168,7 @@ void TDayPainter::PaintTopSpace() const
     UsePen(FCanvas, vcl::clBlack);
     Line(FCanvas, Top.Left, Top.Top, Top.Left, Top.Bottom);
     FCanvas.GetPen()->SetColor(FLook.RulerMarksColor);
-    Line(FCanvas, Top.Left + 1, Top.Bottom - 1, Top.Right - 1, Top.Bottom - 1);
+    Line(FCanvas, Top.Left + 1, Top.Bottom - 1, Top.Right, Top.Bottom - 1);
 }
 
 void TDayPainter::PaintCaption() const

@@ -312,7 +312,8 @@ void TListView::ApplyState()
     for (int Index = 0; Index < GetCount(); ++Index) {
         const TListItem& Item = *FItems[static_cast<std::size_t>(Index)];
         View()->InsertRow(Index, Item.Cells());
-        View()->SetChecked(Index, Item.FChecked);
+        if (FCheckboxes)
+            View()->SetChecked(Index, Item.FChecked);
         if (Item.FSelected)
             View()->SetSelected(Index, true);
     }

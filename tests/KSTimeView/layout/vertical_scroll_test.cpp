@@ -7,7 +7,7 @@ namespace
 
 using namespace timeview;
 
-constexpr TScrollMetrics Metrics{960, 500, 62, 20, true};
+constexpr TScrollMetrics Metrics{960, 500, 62, 40, 20, true};
 
 TEST(ScrollRange, APageIsTheVisibleHeightAndOneMore)
 {
@@ -17,13 +17,13 @@ TEST(ScrollRange, APageIsTheVisibleHeightAndOneMore)
 
 TEST(ScrollRange, AScaleThatIsVisibleAsAWholeDoesNotScroll)
 {
-    EXPECT_EQ(ScrollRange({960, 1022, 62, 20, true}, 30), (TScrollRange{961, 0, 0}));
-    EXPECT_EQ(ScrollRange({960, 1021, 62, 20, true}, 30), (TScrollRange{960, 960, 30}));
+    EXPECT_EQ(ScrollRange({960, 1022, 62, 40, 20, true}, 30), (TScrollRange{961, 0, 0}));
+    EXPECT_EQ(ScrollRange({960, 1021, 62, 40, 20, true}, 30), (TScrollRange{960, 960, 30}));
 }
 
 TEST(ScrollRange, AWindowWithoutRoomForTheScaleHasAnEmptyPage)
 {
-    EXPECT_EQ(ScrollRange({960, 10, 62, 20, true}, 0).Page, 0);
+    EXPECT_EQ(ScrollRange({960, 10, 62, 40, 20, true}, 0).Page, 0);
 }
 
 TEST(ScrollTarget, StopsWhereTheEndOfTheScaleMeetsTheEndOfTheWindow)
@@ -34,7 +34,7 @@ TEST(ScrollTarget, StopsWhereTheEndOfTheScaleMeetsTheEndOfTheWindow)
 
 TEST(ScrollTarget, HasNoUpperLimitWhileTheWholeScaleIsVisible)
 {
-    EXPECT_EQ(ScrollTarget({960, 1100, 62, 20, true}, 5000), (TScrollTarget{5000, 5000}));
+    EXPECT_EQ(ScrollTarget({960, 1100, 62, 40, 20, true}, 5000), (TScrollTarget{5000, 5000}));
 }
 
 TEST(ScrollTarget, WithoutSmoothScrollTheOffsetIsWholeMarksAndTheBarKeepsItsPosition)
@@ -54,7 +54,16 @@ TEST(RequestedPosition, LinesAreMarksAndPagesThreeOfThem)
     EXPECT_EQ(RequestedPosition(Metrics, TScrollRequest::PageDown, 100, 0), 160);
     EXPECT_EQ(RequestedPosition(Metrics, TScrollRequest::Thumb, 100, 333), 333);
     EXPECT_EQ(RequestedPosition(Metrics, TScrollRequest::Top, 100, 0), 0);
-    EXPECT_EQ(RequestedPosition(Metrics, TScrollRequest::Bottom, 100, 0), 522);
+    EXPECT_EQ(RequestedPosition(Metrics, TScrollRequest::End, 100, 0), 522);
+}
+
+TEST(RequestedPosition, TheBarsBottomStandsTwiceTheAllDayAreaAboveTheEnd)
+{
+    EXPECT_EQ(RequestedPosition(Metrics, TScrollRequest::Bottom, 100, 0), 960 - 500 - 40 + 22);
+    TScrollMetrics Hidden = Metrics;
+    Hidden.Top = 22;
+    Hidden.TopSpace = 0;
+    EXPECT_EQ(RequestedPosition(Hidden, TScrollRequest::Bottom, 100, 0), 482);
 }
 
 TEST(AutoScrollZone, IsHalfAMarkInsideTheEdgesOfTheScale)

@@ -38,7 +38,11 @@ public:
         if (!FItems->IsUpdating())
             Log.push_back("repaint");
     }
-    void RepaintDays(int, int) override { Repaint(); }
+    void RepaintDays(int Left, int Right) override
+    {
+        Ranges.push_back({Left, Right});
+        Repaint();
+    }
     void RepaintRect(const vcl::TRect& Rect) override
     {
         Log.push_back("repaint " + std::to_string(Rect.Left) + ".." + std::to_string(Rect.Right));
@@ -95,6 +99,8 @@ public:
     std::function<void(TKSTimeViewItem*)> OnDeletion;
     std::function<void(TKSTimeviewDay*)> OnNewDay;
     std::vector<std::string> Log;
+    /// Of the repaints that reached some days only.
+    std::vector<std::pair<int, int>> Ranges;
 
 private:
     timeview::TTimeViewDays FDays;

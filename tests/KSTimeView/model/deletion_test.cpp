@@ -31,6 +31,27 @@ TEST(Deletion, ClosesTheEditorClearsTheSelectionTellsAndLeavesInThisOrder)
     EXPECT_EQ(View.Day(0)->GetCount(), 0);
 }
 
+TEST(Deletion, OfAnotherItemLeavesTheSelection)
+{
+    TFakeView View;
+    TKSTimeViewItem* const Selected = View.Add(10, 12);
+    View.Selection = Selected;
+    View.Add(13, 14)->Delete();
+    EXPECT_EQ(View.Selection, Selected);
+}
+
+TEST(Deletion, AnItemOnItsWayOutIsNotStaying)
+{
+    TFakeView View;
+    TKSTimeViewItem* const Item = View.Add(10, 12);
+    EXPECT_TRUE(Item->IsStaying());
+    View.OnDeletion = [](TKSTimeViewItem* Leaving) {
+        EXPECT_TRUE(Leaving->IsInCollection());
+        EXPECT_FALSE(Leaving->IsStaying());
+    };
+    Item->Delete();
+}
+
 TEST(Deletion, LeavesTheEditorOpenUnderItsGuard)
 {
     TFakeView View;

@@ -283,4 +283,40 @@ TEST_F(TTimeViewInput, ItemsAreSavedAndLoadedThroughStreamsAndFiles)
     EXPECT_EQ(Day(0).GetCount(), 1);
 }
 
+TEST_F(TTimeViewInput, AHandlerCannotSelectTheItemThatIsBeingDeleted)
+{
+    Show();
+    TKSTimeViewItem* const Item = Add(9, 10, false, "Lunch");
+    View().SetSelectedItem(Item);
+    View().OnDeletion = [this](vcl::TObject*, TKSTimeViewItem* Leaving) {
+        View().SetSelectedItem(Leaving);
+        View().SetSelectedItem(View().GetItems()->FirstItem());
+    };
+    Item->Delete();
+    EXPECT_EQ(View().GetSelectedItem(), nullptr);
+}
+
+TEST_F(TTimeViewInput, TheSameDateAgainChangesNothingEvenWithMoreDaysThanADateRangeHas)
+{
+    Show();
+    View().AddDatesRange(Monday, Monday + 39);
+    int NewDays = 0;
+    View().OnNewDay = [&](vcl::TObject*, TKSTimeviewDay*) { ++NewDays; };
+    View().SetDate(View().GetDate());
+    EXPECT_EQ(View().GetDaysCount(), 40);
+    EXPECT_EQ(NewDays, 0);
+    View().SetDate(Monday + 1);
+    EXPECT_EQ(View().GetDaysCount(), 31);
+    EXPECT_EQ(NewDays, 31);
+}
+
+TEST_F(TTimeViewInput, AnImageListMayDieBeforeTheViewThatShowsIt)
+{
+    Show();
+    auto* const Images = vcl::New<vcl::TImageList>(nullptr);
+    View().SetImages(Images);
+    delete Images;
+    EXPECT_EQ(View().GetImages(), nullptr);
+}
+
 } // namespace

@@ -193,7 +193,7 @@ TEST_F(TTimeViewPainting, AllDayItemsAreCenteredOverTheTopSpaceAndChangeColourWh
     TKSTimeViewItem* const Item = Add(0, 24, true, "Holiday");
     Item->SetAllDayColor(vcl::clYellow);
     EXPECT_TRUE(HasRun(Painting(), {"fill 0,22,200,62 brush=808080", "line 0,22 0,62 pen=000000",
-                                    "line 1,61 199,61 pen=808080", "rect 3,24,198,42 pen=000000 brush=FFFF00",
+                                    "line 1,61 200,61 pen=808080", "rect 3,24,198,42 pen=000000 brush=FFFF00",
                                     "text 78,26 \"Holiday\" font=\"Arial\" -11 color=000000 back=FFFF00"}));
     View().SetSelectedItem(Item);
     EXPECT_THAT(Painting(), Contains("rect 3,24,198,42 pen=000000 brush=FFFFFF"));
