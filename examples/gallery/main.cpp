@@ -11,7 +11,6 @@
 #include "vcl/forms/Application.h"
 #include "vcl/forms/StandardClasses.h"
 #include "vcl/platform/qt/QtPlatform.h"
-#include "vcl/qt/DarkColors.h"
 #include "vcl/qt/Snapshot.h"
 
 namespace
@@ -96,7 +95,7 @@ int main(int ArgumentCount, char** Arguments)
         PrepareScreen(Options);
         vcl::qt::UseQt(ArgumentCount, Arguments);
         if (Options.Dark)
-            vcl::qt::UseDarkColors();
+            vcl::qt::UseDarkLook();
         if (Options.Screenshot.empty())
             Run(Options, State);
         else

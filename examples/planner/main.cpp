@@ -13,7 +13,6 @@
 #include "vcl/forms/Application.h"
 #include "vcl/forms/StandardClasses.h"
 #include "vcl/platform/qt/QtPlatform.h"
-#include "vcl/qt/DarkColors.h"
 #include "vcl/qt/Snapshot.h"
 
 namespace
@@ -107,7 +106,7 @@ int main(int ArgumentCount, char** Arguments)
         PrepareScreen(Options);
         vcl::qt::UseQt(ArgumentCount, Arguments);
         if (Options.Dark)
-            vcl::qt::UseDarkColors();
+            vcl::qt::UseDarkLook();
         if (Options.Screenshot.empty())
             Run(Options);
         else

@@ -10,7 +10,6 @@
 #include "ksform/Verbs.h"
 #include "vcl/forms/Form.h"
 #include "vcl/platform/qt/QtPlatform.h"
-#include "vcl/qt/DarkColors.h"
 #include "vcl/qt/Snapshot.h"
 #include "vcl/streaming/Reader.h"
 
@@ -88,7 +87,7 @@ int RunRender(const TArguments& Arguments)
     setenv("QT_QPA_PLATFORM", "offscreen", 1);
     qt::UseQt();
     if (Options.Dark)
-        qt::UseDarkColors();
+        qt::UseDarkLook();
     TFormReading Reading(Options.Form);
     TForm& Form = Reading.GetForm();
     if (Options.Size)
