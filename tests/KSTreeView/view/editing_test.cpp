@@ -83,7 +83,7 @@ TEST_F(TreeEditing, EveryKeyPressGoesToTheView)
     EXPECT_THAT(Log, ElementsAre("key 120"));
 }
 
-TEST_F(TreeEditing, EscapeDiscards)
+TEST_F(TreeEditing, EscapeDiscardsWhatWasTyped)
 {
     Edit("A\nB\n", "A");
     Type("New");
@@ -129,7 +129,7 @@ TEST_F(TreeEditing, LosingTheFocusAccepts)
     EXPECT_TRUE(Other->Focused());
 }
 
-TEST_F(TreeEditing, TabInTheViewAcceptsAndEscapeDiscards)
+TEST_F(TreeEditing, TabInTheViewAcceptsAndEscapeDiscardsWhatWasTyped)
 {
     Edit("A\nB\n", "A");
     Tree->GetEditor()->SetText("New");
@@ -154,7 +154,7 @@ TEST_F(TreeEditing, TabInTheEditorAcceptsAndMovesOn)
     EXPECT_NE(Node("New"), nullptr);
 }
 
-TEST_F(TreeEditing, ScrollingAccepts)
+TEST_F(TreeEditing, ScrollingAcceptsWhatWasTyped)
 {
     Edit("A\nB\n", "A");
     Type("New");
@@ -186,7 +186,7 @@ TEST_F(TreeEditing, AnotherNodeAcceptsTheFirst)
     EXPECT_FALSE(Tree->IsEditing());
 }
 
-TEST_F(TreeEditing, F2Renames)
+TEST_F(TreeEditing, F2OpensTheEditorOfTheSelectedNode)
 {
     Show("A\nB\n");
     Tree->SetFocus();

@@ -83,7 +83,7 @@ TEST_F(TDragTest, TheCursorIsTheSourcesOverWhatAccepts)
     EXPECT_EQ(WindowOf(FSource).GetCursor(), crDefault);
 }
 
-TEST_F(TDragTest, EscapeCancels)
+TEST_F(TDragTest, EscapeCancelsTheDragUnderWay)
 {
     FSource.SetFocus();
     FSource.BeginDrag(true);
