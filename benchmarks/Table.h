@@ -54,5 +54,6 @@ int RunTable(int Count, char** Arguments, const TCases& Cases);
 /// Each in the file of that name.
 void AddCalendarCases(TCases& Cases);
 void AddTimeViewCases(TCases& Cases);
+void AddTreeViewCases(TCases& Cases);
 
 } // namespace ks::bench

@@ -12,6 +12,7 @@ int main(int Count, char** Arguments)
 #ifdef KS_BENCH_CONTROLS
     vcl::qt::UseQt(Count, Arguments);
     ks::bench::AddTimeViewCases(Cases);
+    ks::bench::AddTreeViewCases(Cases);
 #endif
     ks::bench::AddCalendarCases(Cases);
     return ks::bench::RunTable(Count, Arguments, Cases);

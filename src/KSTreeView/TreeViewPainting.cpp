@@ -13,25 +13,26 @@ using vcl::TAliveGuard;
 void TCustomKSTreeView::CalcSubTreesPos()
 {
     FChart.Arrange(*FItems, FMetrics);
-    if (FPrinting)
+    if (FPrinting) {
+        FChart.SetOrigin(FChart.OriginFor({FPaper.Width, FPaper.Height, 0, 0, true}));
         return;
+    }
     const TAliveGuard Guard(*this);
     const vcl::TSize Total = FChart.GetTotal();
     FHorzScrollBar->SetRange(vcl::SaturateToInt(2 * std::int64_t{FMetrics.HorzSpacing} + Total.Width));
-    if (Guard.IsAlive())
-        FVertScrollBar->SetRange(vcl::SaturateToInt(2 * std::int64_t{FMetrics.VertSpacing} + Total.Height));
+    if (!Guard.IsAlive())
+        return;
+    FVertScrollBar->SetRange(vcl::SaturateToInt(2 * std::int64_t{FMetrics.VertSpacing} + Total.Height));
+    if (!Guard.IsAlive())
+        return;
+    FChart.SetOrigin(FChart.OriginFor({GetClientWidth(), GetClientHeight(), FHorzScrollBar->GetPosition(),
+                                       FVertScrollBar->GetPosition(), false}));
 }
 
 void TCustomKSTreeView::CalcDisplayRect()
 {
-    treeview::TChartFrame Frame;
-    if (FPrinting) {
-        Frame = {FPaper.Width, FPaper.Height, 0, 0, true};
-    } else {
-        Frame = {GetClientWidth(), GetClientHeight(), FHorzScrollBar->GetPosition(),
-                 FVertScrollBar->GetPosition(), false};
-    }
-    FChart.Place(FChart.OriginFor(Frame));
+    FChart.Arrange(*FItems, FMetrics);
+    FChart.Place(FChart.GetOrigin());
 }
 
 treeview::TTreeState TCustomKSTreeView::State() const

@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "KSTimeView/KSTimeView.h"
+#include "KSTreeView/KSTreeView.h"
 #include "ksform/Files.h"
 #include "ksform/Json.h"
 #include "ksform/Options.h"
@@ -99,6 +100,33 @@ TContents ReadTimeViewItems(TStream& Stream)
     return Contents;
 }
 
+TRecord Describe(const TKSTreeNode& Node)
+{
+    return {
+        TextField("Text", Node.GetText()),
+        NumberField("Level", Node.GetLevel()),
+        NumberField("Count", Node.GetCount()),
+        NumberField("ImageIndex", Node.GetImageIndex()),
+        NumberField("Data", static_cast<std::int64_t>(reinterpret_cast<std::intptr_t>(Node.GetData()))),
+        NumberField("IntData", Node.GetIntData()),
+        TextField("StringData", Node.GetStringData()),
+    };
+}
+
+TContents ReadTreeNodes(TStream& Stream)
+{
+    TContents Contents;
+    TKSTreeNodes Nodes;
+    try {
+        Nodes.ReadData(Stream);
+    } catch (const EReadError& Error) {
+        Contents.Problem = Error.what();
+    }
+    for (const TKSTreeNode* Node = Nodes.GetFirstNode(); Node; Node = Node->GetNext())
+        Contents.Records.push_back(Describe(*Node));
+    return Contents;
+}
+
 struct TCollectionKind {
     const char* Name;
     TContents (*Read)(TStream& Stream);
@@ -106,6 +134,7 @@ struct TCollectionKind {
 
 constexpr TCollectionKind Kinds[] = {
     {"TKSTimeViewItems", ReadTimeViewItems},
+    {"TKSTreeNodes", ReadTreeNodes},
 };
 
 const TCollectionKind& KindOf(const std::string& Name)

@@ -48,6 +48,8 @@ public:
     /// Size of the drawing; 0 without nodes.
     vcl::TSize GetTotal() const { return FTotal; }
     vcl::TPoint GetOrigin() const { return FOrigin; }
+    /// Where the drawing is to stand; rectangles follow with Place.
+    void SetOrigin(vcl::TPoint Value) { FOrigin = Value; }
     /// Where the drawing stands: in the middle when it and the spacing around it fit, else scrolled.
     vcl::TPoint OriginFor(const TChartFrame& Frame) const;
 

@@ -56,7 +56,7 @@ void TKSTreeNode::Collapse(bool Recurse)
 {
     const TNodeRef Self(this);
     ExpandNode(false, Recurse);
-    if (!FOwner || !Self)
+    if (!Self)
         return;
     ITreeHost* const View = Host();
     const TKSTreeNode* const Selected = View ? View->SelectedNode() : nullptr;
@@ -95,10 +95,10 @@ void TKSTreeNode::ExpandThis(bool Expand)
     const TNodeRef Self(this);
     if (!DoCanExpand(Expand))
         return;
-    if (FOwner && !Self)
+    if (!Self)
         return;
     DoExpand(Expand);
-    if ((FOwner && !Self) || GetExpanded() == Expand)
+    if (!Self || GetExpanded() == Expand)
         return;
     ChangeState(TKSTNNodeState::nsExpanded, Expand);
     if (FOwner)
