@@ -311,10 +311,16 @@ vcl::TRect TKSTimeviewDay::AllDayRect(const TKSTimeViewItem& Item, const TViewGe
                                     Geometry.RulerMarkHeight, Item.GetAllDayRow());
 }
 
-vcl::TRect TKSTimeviewDay::TimedRect(const TKSTimeViewItem& Item, const TViewFrame& Frame) const
+TKSTimeviewDay::TRows TKSTimeviewDay::GetItemRows(const TKSTimeViewItem& Item,
+                                                  const timeview::TTimeScale& Scale) const
 {
     const vcl::TTime Start = Item.FStartTime < FDate ? 0.0 : timeview::TimeOfDay(Item.FStartTime);
     const vcl::TTime End = Item.FEndTime >= FDate + 1 ? 1.0 : timeview::TimeOfDay(Item.FEndTime);
+    return {Scale.TimeToPos(Start, 1), Scale.TimeToPos(End, 1)};
+}
+
+vcl::TRect TKSTimeviewDay::TimedRect(const TKSTimeViewItem& Item, const TViewFrame& Frame) const
+{
     timeview::TItemPlace Place;
     Place.Day = FExtent;
     Place.Column = StoredColumn(&Item);
@@ -323,7 +329,8 @@ vcl::TRect TKSTimeviewDay::TimedRect(const TKSTimeViewItem& Item, const TViewFra
     Place.GapCover = Frame.Geometry.ShowDaysGapCover;
     Place.OverWholeDay = Item.FDragOutside;
     const timeview::TItemExtent Extent = timeview::TimedItemExtent(Place);
-    return {Extent.Left, Frame.Scale.TimeToPos(Start, 1), Extent.Right, Frame.Scale.TimeToPos(End, 1)};
+    const TRows Rows = GetItemRows(Item, Frame.Scale);
+    return {Extent.Left, Rows.Top, Extent.Right, Rows.Bottom};
 }
 
 vcl::TRect TKSTimeviewDay::GetItemsRect() const

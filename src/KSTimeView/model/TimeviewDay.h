@@ -4,6 +4,7 @@
 #include <unordered_set>
 
 #include "KSTimeView/layout/DayColumns.h"
+#include "KSTimeView/layout/TimeScale.h"
 #include "KSTimeView/model/ItemSequence.h"
 #include "KSTimeView/model/TimeViewHost.h"
 #include "vcl/system/Object.h"
@@ -68,6 +69,12 @@ public:
     vcl::TRect GetItemRect(const TKSTimeViewItem* Item) const;
     /// The same from a frame taken before, for those who ask for many.
     vcl::TRect GetItemRect(const TKSTimeViewItem* Item, const timeview::TViewFrame& Frame) const;
+    /// Top and bottom of a timed item alone.
+    struct TRows {
+        int Top = 0;
+        int Bottom = 0;
+    };
+    TRows GetItemRows(const TKSTimeViewItem& Item, const timeview::TTimeScale& Scale) const;
     /// The union of all items' rectangles.
     vcl::TRect GetItemsRect() const;
     /// The first item whose rectangle, 4 pixels higher above and below, holds the point: an all-day item

@@ -136,14 +136,22 @@ void TDayPainter::DrawItems(TWanted&& IsWanted) const
 
 void TDayPainter::PaintItems() const
 {
-    DrawItems([](const TKSTimeViewItem& Item) {
-        return !Item.GetAllDay() && !Item.GetDragOutside() && !Item.Selected();
+    const TKSTimeViewItem* const Selected = SelectedItem();
+    DrawItems([Selected](const TKSTimeViewItem& Item) {
+        return !Item.GetAllDay() && !Item.GetDragOutside() && &Item != Selected;
     });
 }
 
 void TDayPainter::PaintSelectedItems() const
 {
-    DrawItems([](const TKSTimeViewItem& Item) { return !Item.GetAllDay() && Item.Selected(); });
+    const TKSTimeViewItem* const Selected = SelectedItem();
+    if (Selected && !Selected->GetAllDay())
+        DrawItems([Selected](const TKSTimeViewItem& Item) { return &Item == Selected; });
+}
+
+const TKSTimeViewItem* TDayPainter::SelectedItem() const
+{
+    return FDay.GetHost() ? FDay.GetHost()->SelectedItem() : nullptr;
 }
 
 void TDayPainter::PaintAllDayItems() const

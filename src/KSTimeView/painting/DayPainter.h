@@ -37,6 +37,7 @@ private:
     template <class TWanted>
     void DrawItems(TWanted&& IsWanted) const;
     void FillTimes(vcl::TTime Start, vcl::TTime End, vcl::TColor Color) const;
+    const TKSTimeViewItem* SelectedItem() const;
     vcl::AnsiString CaptionFor(int Width) const;
 
     vcl::TCanvas& FCanvas;

@@ -111,9 +111,9 @@ TItemPainter::TContents TItemPainter::Contents(const TKSTimeViewItem& Item, cons
 void TItemPainter::DrawCaption(const TKSTimeViewItem& Item, vcl::TRect Rect) const
 {
     vcl::InflateRect(Rect, -3, -2);
-    FCanvas.SetFont(FLook.Font);
     if (FCanvas.IsClippedOut(Rect))
         return;
+    FCanvas.SetFont(FLook.Font);
     vcl::AnsiString Text = Item.GetCaption();
     const unsigned Flags = Item.GetAllDay() ? TextFlags | vcl::DT_CENTER : TextFlags;
     vcl::DrawTextEx(FCanvas, Text, Rect, FLook.Control->DrawTextBiDiModeFlags(Flags));

@@ -120,9 +120,9 @@ void TRulerPainter::PaintItemsMark() const
         for (const TKSTimeViewItem* Item : *Day) {
             if (Item->GetAllDay())
                 continue;
-            const vcl::TRect Rect = Day->GetItemRect(Item, FFrame);
-            Above = Above || FFrame.Scale.Top() >= Rect.Bottom;
-            Below = Below || FFrame.Geometry.ClientHeight < Rect.Top;
+            const TKSTimeviewDay::TRows Rows = Day->GetItemRows(*Item, FFrame.Scale);
+            Above = Above || FFrame.Scale.Top() >= Rows.Bottom;
+            Below = Below || FFrame.Geometry.ClientHeight < Rows.Top;
             if (Above && Below)
                 break;
         }
