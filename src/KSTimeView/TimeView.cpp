@@ -67,8 +67,6 @@ TKSTimeView::~TKSTimeView()
 {
     // Items reach the view while they go, so they go first; the virtual calls were made in BeforeDestruction.
     delete FItems;
-    if (FImages)
-        FImages->UnregisterChanges(FImagesLink.get());
 }
 
 void TKSTimeView::BeforeDestruction()
@@ -110,16 +108,8 @@ void TKSTimeView::SetImages(vcl::TCustomImageList* Value)
 {
     if (FImages == Value)
         return;
-    // A list that dies has let go of the link already, and is no list any more when it tells of its end.
-    if (vcl::TCustomImageList* const Old = FImagesLink->GetSender()) {
-        Old->UnregisterChanges(FImagesLink.get());
-        RemoveFreeNotification(Old);
-    }
     FImages = Value;
-    if (FImages) {
-        FImages->RegisterChanges(FImagesLink.get());
-        FreeNotification(FImages);
-    }
+    FImagesLink->Follow(Value, *this);
     Invalidate();
 }
 

@@ -45,8 +45,6 @@ TCustomKSTreeView::~TCustomKSTreeView()
     // Nodes reach the view while they go, so they go first; the virtual calls were made in BeforeDestruction.
     FCoalescing = 1;
     delete FItems;
-    if (FImages)
-        FImages->UnregisterChanges(FImagesLink.get());
 }
 
 void TCustomKSTreeView::BeforeDestruction()
@@ -82,16 +80,8 @@ void TCustomKSTreeView::SetImages(vcl::TCustomImageList* Value)
 {
     if (FImages == Value)
         return;
-    // A list that dies has let go of the link already, and is no list any more when it tells of its end.
-    if (vcl::TCustomImageList* const Old = FImagesLink->GetSender()) {
-        Old->UnregisterChanges(FImagesLink.get());
-        RemoveFreeNotification(Old);
-    }
     FImages = Value;
-    if (FImages) {
-        FImages->RegisterChanges(FImagesLink.get());
-        FreeNotification(FImages);
-    }
+    FImagesLink->Follow(Value, *this);
     Refresh();
 }
 

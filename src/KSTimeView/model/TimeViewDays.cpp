@@ -76,7 +76,7 @@ void TTimeViewDays::SetDateRange(vcl::TDateTime Date, int Count)
     Count = std::clamp(Count, 1, MaxRange);
     if (Date == FDate && Count == GetCount())
         return;
-    const TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     FHost.HideItemEditor(true);
     if (!Witness.IsAlive())
         return;
@@ -102,7 +102,7 @@ void TTimeViewDays::AnnounceNewDays()
 {
     if (!FHost.WantsNewDays())
         return;
-    const TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     const std::uint32_t Allocation = FAllocations;
     for (TKSTimeviewDay* Day : std::vector<TKSTimeviewDay*>(FDays)) {
         if (std::find(FDays.begin(), FDays.end(), Day) != FDays.end())
@@ -137,7 +137,7 @@ TKSTimeviewDay* TTimeViewDays::AddDate(vcl::TDateTime Date)
     TKSTimeviewDay* const Day = vcl::New<TKSTimeviewDay>(this, Date);
     Insert(Day);
     DaysChanged();
-    const TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     FHost.NewDay(Day);
     const bool IsThere = Witness.IsAlive() && std::find(FDays.begin(), FDays.end(), Day) != FDays.end();
     return IsThere ? Day : nullptr;
@@ -167,7 +167,7 @@ void TTimeViewDays::DaysChanged()
 
 void TTimeViewDays::AddDatesRange(vcl::TDateTime First, vcl::TDateTime Last)
 {
-    const TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     // Dates so far away that the next one is the same number would never end.
     for (vcl::TDateTime Date = First; Date <= Last && Witness.IsAlive(); Date += 1) {
         AddDate(Date);

@@ -4,8 +4,8 @@
 #include <vector>
 
 #include "KSTimeView/layout/TimeScale.h"
-#include "KSTimeView/model/Life.h"
 #include "KSTimeView/model/TimeViewHost.h"
+#include "vcl/system/Liveness.h"
 
 namespace timeview
 {
@@ -133,7 +133,7 @@ private:
     TLayoutInput FInput;
     bool FIsDue = false;
     bool FIsEager = false;
-    TLife FLife;
+    vcl::TLiveness FLife;
 };
 
 } // namespace timeview

@@ -96,7 +96,7 @@ void TKSTimeViewItems::Detach(TKSTimeViewItem* Item)
 template <class TAction>
 void TKSTimeViewItems::WhileUpdating(TAction&& Action)
 {
-    const timeview::TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     BeginUpdate();
     try {
         Action();
@@ -112,7 +112,7 @@ void TKSTimeViewItems::WhileUpdating(TAction&& Action)
 void TKSTimeViewItems::Clear()
 {
     WhileUpdating([this] {
-        const timeview::TLifeWitness Witness(FLife);
+        const vcl::TAliveGuard Witness(FLife);
         while (TKSTimeViewItem* const Item = Witness.IsAlive() ? FirstStaying() : nullptr)
             Item->Delete();
     });
@@ -164,7 +164,7 @@ void TKSTimeViewItems::WriteData(vcl::TStream& Stream) const
 
 void TKSTimeViewItems::ReadData(vcl::TStream& Stream)
 {
-    const timeview::TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     Clear();
     if (!Witness.IsAlive())
         return;

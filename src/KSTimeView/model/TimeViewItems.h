@@ -1,8 +1,8 @@
 #pragma once
 
 #include "KSTimeView/model/ItemSequence.h"
-#include "KSTimeView/model/Life.h"
 #include "KSTimeView/model/TimeViewItem.h"
+#include "vcl/system/Liveness.h"
 
 /// The items of a time view, in the order they were added. The view owns the collection, the collection its
 /// items.
@@ -77,5 +77,5 @@ private:
     timeview::IViewHost* FHost;
     timeview::TItemSequence FList;
     int FUpdateCount = 0;
-    timeview::TLife FLife;
+    vcl::TLiveness FLife;
 };

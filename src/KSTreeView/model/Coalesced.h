@@ -2,8 +2,8 @@
 
 #include <utility>
 
-#include "KSTreeView/model/Life.h"
 #include "KSTreeView/model/TreeHost.h"
+#include "vcl/system/Liveness.h"
 
 namespace treeview
 {
@@ -19,14 +19,14 @@ inline constexpr TTreeEvents ExpansionEvents{TTreeEvent::Expanding,  TTreeEvent:
 /// Runs Action with all its refreshing and drawing made one refresh at the end, if nobody can tell: while
 /// none of Events, and no event of painting, has a handler. Otherwise just runs it.
 template <class TAction>
-void Coalesced(ITreeHost* Host, const TLife& Life, TTreeEvents Events, TAction&& Action)
+void Coalesced(ITreeHost* Host, const vcl::TLiveness& Life, TTreeEvents Events, TAction&& Action)
 {
     const TTreeEvents All = Events + TTreeEvents{TTreeEvent::GetImageIndex, TTreeEvent::DrawNode};
     if (!Host || Host->IsAnyAssigned(All)) {
         std::forward<TAction>(Action)();
         return;
     }
-    const TLifeWitness Witness(Life);
+    const vcl::TAliveGuard Witness(Life);
     Host->BeginCoalescing();
     try {
         std::forward<TAction>(Action)();

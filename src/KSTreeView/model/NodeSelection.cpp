@@ -10,7 +10,7 @@ using enum TKSTNNodeState;
 /// False: the selection stays, by veto or because a handler took away what was to be selected.
 bool TNodeSelection::LeaveSelected(const TNodeRef& Next, bool WantsNode)
 {
-    const TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     if (!FEvents.CanChange(FSelected) || !Witness.IsAlive())
         return false;
     if ((WantsNode && !Next) || FSelected == Next.Get())
@@ -26,7 +26,7 @@ void TNodeSelection::Select(TKSTreeNode* Node)
 {
     if (Node == FSelected)
         return;
-    const TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     const TNodeRef Next(Node);
     if (FSelected && !LeaveSelected(Next, Node != nullptr))
         return;
@@ -54,7 +54,7 @@ void TNodeSelection::Focus(TKSTreeNode* Node)
 {
     if (Node == FFocused)
         return;
-    const TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     const TNodeRef Next(Node);
     TKSTreeNode* const Old = FFocused;
     FFocused = Node;

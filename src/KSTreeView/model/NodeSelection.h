@@ -2,8 +2,8 @@
 
 #include <cstdint>
 
-#include "KSTreeView/model/Life.h"
 #include "KSTreeView/model/TreeNode.h"
+#include "vcl/system/Liveness.h"
 
 namespace treeview
 {
@@ -51,7 +51,7 @@ private:
     TKSTreeNode* FFocused = nullptr;
     TKSTreeNode* FEdited = nullptr;
     std::uint64_t FSerial = 0; // counts the nodes that were selected
-    TLife FLife;
+    vcl::TLiveness FLife;
 };
 
 } // namespace treeview

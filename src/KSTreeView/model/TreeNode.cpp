@@ -37,7 +37,7 @@ void TKSTreeNode::operator delete(TKSTreeNode* Node, std::destroying_delete_t)
         return;
     }
     ITreeHost* const Host = Node->Host();
-    std::optional<treeview::TLifeWitness> Witness;
+    std::optional<vcl::TAliveGuard> Witness;
     if (Node->FOwner)
         Witness.emplace(Node->FOwner->GetLife());
     treeview::TSubtreeRemoval Removal(*Node, true);

@@ -32,7 +32,7 @@ public:
 
 private:
     ITreeHost* FHost;
-    std::optional<treeview::TLifeWitness> FWitness;
+    std::optional<vcl::TAliveGuard> FWitness;
 };
 
 } // namespace

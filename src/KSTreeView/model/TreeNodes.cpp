@@ -7,8 +7,8 @@
 #include "KSTreeView/model/SubtreeRemoval.h"
 #include "vcl/streaming/Filer.h"
 
-using treeview::TLifeWitness;
 using treeview::TSubtreeRemoval;
+using vcl::TAliveGuard;
 
 const vcl::TClass& TKSTreeNodes::StaticClass()
 {
@@ -183,7 +183,7 @@ TKSTreeNode* TKSTreeNodes::InternalAddObject(TKSTreeNode* Parent, const vcl::Ans
     else
         LinkLast(Node, Parent);
     const treeview::TNodeRef Added(Node);
-    const TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     if (Parent)
         Parent->SetHasChildren(true);
     if (Added && !IsUpdating() && Node->IsVisible())
@@ -272,7 +272,7 @@ void TKSTreeNodes::Delete(TKSTreeNode* Node)
 template <class TAction>
 void TKSTreeNodes::WhileUpdating(TAction&& Action)
 {
-    const TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     BeginUpdate();
     try {
         Action();
@@ -303,7 +303,7 @@ TKSTreeNode* TKSTreeNodes::FirstStaying() const
 
 void TKSTreeNodes::DeleteAll(bool OwnerGoes)
 {
-    const TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     while (TKSTreeNode* const Node = FirstStaying()) {
         if (OwnerGoes)
             delete Node;

@@ -3,9 +3,9 @@
 #include <cstdint>
 #include <vector>
 
-#include "KSTreeView/model/Life.h"
 #include "KSTreeView/model/NodeRef.h"
 #include "KSTreeView/model/TreeNode.h"
+#include "vcl/system/Liveness.h"
 
 namespace vcl
 {
@@ -91,7 +91,7 @@ public:
     treeview::ITreeHost* GetHost() const { return FHost; }
     /// Counts the nodes that have gone: the same number as before means that all pointers still hold.
     std::uint64_t GetGoneSerial() const { return FGoneSerial; }
-    const treeview::TLife& GetLife() const { return FLife; }
+    const vcl::TLiveness& GetLife() const { return FLife; }
 
     /// Changes with everything that moves boxes: links, expansion, HasChildren.
     std::uint64_t GetShapeSerial() const { return FShapeSerial; }
@@ -150,5 +150,5 @@ private:
     mutable int FChildCursorIndex = 0;
     std::vector<treeview::TNodeRef*> FRefs;
     std::vector<treeview::TSubtreeRemoval*> FRemovals; // under way, outermost first
-    treeview::TLife FLife;
+    vcl::TLiveness FLife;
 };

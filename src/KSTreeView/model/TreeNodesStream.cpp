@@ -82,7 +82,7 @@ void TKSTreeNode::ReadData(vcl::TStream& Stream, TKSNodeInfo& Info)
     ReadRecord(Stream, Info);
     if (!FOwner)
         return;
-    const treeview::TLifeWitness Witness(FOwner->GetLife());
+    const vcl::TAliveGuard Witness(FOwner->GetLife());
     const std::uint64_t Gone = FOwner->GetGoneSerial();
     TKSTreeNodes* const Nodes = FOwner;
     std::vector<TPending> Pending{{this, Info.Count}};
@@ -114,7 +114,7 @@ void TKSTreeNode::WriteData(vcl::TStream& Stream, TKSNodeInfo& Info) const
 
 void TKSTreeNodes::ReadTopNodes(vcl::TStream& Stream)
 {
-    const treeview::TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     Clear();
     if (!Witness.IsAlive())
         return;
@@ -152,7 +152,7 @@ void TKSTreeNodes::Assign(const vcl::TPersistent* Source)
     }
     if (Nodes == this)
         return;
-    const treeview::TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     treeview::Coalesced(FHost, FLife, treeview::DeletionEvents, [&] {
         vcl::TMemoryStream Stream;
         Nodes->WriteData(Stream);

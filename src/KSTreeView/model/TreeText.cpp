@@ -39,7 +39,7 @@ void TKSTreeNodes::ReadText(vcl::TStream& Stream)
 {
     vcl::TStringList Lines;
     Lines.LoadFromStream(Stream);
-    const treeview::TLifeWitness Witness(FLife);
+    const vcl::TAliveGuard Witness(FLife);
     BeginUpdate();
     try {
         Clear();

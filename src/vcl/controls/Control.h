@@ -4,11 +4,11 @@
 
 #include "vcl/classes/Component.h"
 #include "vcl/controls/ControlTypes.h"
-#include "vcl/controls/Liveness.h"
 #include "vcl/controls/PopupMenuBase.h"
 #include "vcl/controls/SizeConstraints.h"
 #include "vcl/graphics/Font.h"
 #include "vcl/platform/Messages.h"
+#include "vcl/system/Liveness.h"
 
 namespace vcl
 {
@@ -276,6 +276,7 @@ protected:
 private:
     void DispatchMouse(TMessage& Message);
     bool DispatchNotification(TMessage& Message);
+    bool TakeButton(TMessage& Message, TMouseButton Button);
     void ButtonDown(TMessage& Message, TMouseButton Button);
     void ButtonDoubleClicked(TMessage& Message, TMouseButton Button);
     void ButtonUp(TMessage& Message, TMouseButton Button);

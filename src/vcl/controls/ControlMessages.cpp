@@ -160,41 +160,37 @@ void TControl::SendCancelMode()
         Active->Perform(CM_CANCELMODE, 0, static_cast<std::int64_t>(reinterpret_cast<std::intptr_t>(this)));
 }
 
-void TControl::ButtonDown(TMessage& Message, TMouseButton Button)
+/// What a press and a double click begin with. False when a handler has freed this control.
+bool TControl::TakeButton(TMessage& Message, TMouseButton Button)
 {
     TAliveGuard Guard(*this);
     if (Button == TMouseButton::mbLeft)
         SendCancelMode();
+    if (Guard.IsAlive())
+        DefaultHandler(Message);
     if (!Guard.IsAlive())
+        return false;
+    if (Button == TMouseButton::mbLeft && FControlStyle.Contains(TControlStyleFlag::csCaptureMouse))
+        SetMouseCapture(true);
+    return true;
+}
+
+void TControl::ButtonDown(TMessage& Message, TMouseButton Button)
+{
+    if (!TakeButton(Message, Button))
         return;
-    DefaultHandler(Message);
-    if (!Guard.IsAlive())
-        return;
-    if (Button == TMouseButton::mbLeft) {
-        if (FControlStyle.Contains(TControlStyleFlag::csCaptureMouse))
-            SetMouseCapture(true);
-        if (FControlStyle.Contains(TControlStyleFlag::csClickEvents))
-            FControlState.Include(TControlStateFlag::csClicked);
-    }
+    if (Button == TMouseButton::mbLeft && FControlStyle.Contains(TControlStyleFlag::csClickEvents))
+        FControlState.Include(TControlStateFlag::csClicked);
     DoMouseDown(Message, Button, {});
 }
 
 void TControl::ButtonDoubleClicked(TMessage& Message, TMouseButton Button)
 {
+    if (!TakeButton(Message, Button))
+        return;
     TAliveGuard Guard(*this);
-    if (Button == TMouseButton::mbLeft)
-        SendCancelMode();
-    if (!Guard.IsAlive())
-        return;
-    DefaultHandler(Message);
-    if (!Guard.IsAlive())
-        return;
-    if (Button == TMouseButton::mbLeft) {
-        if (FControlStyle.Contains(TControlStyleFlag::csCaptureMouse))
-            SetMouseCapture(true);
-        if (FControlStyle.Contains(TControlStyleFlag::csClickEvents))
-            DblClick();
-    }
+    if (Button == TMouseButton::mbLeft && FControlStyle.Contains(TControlStyleFlag::csClickEvents))
+        DblClick();
     if (Guard.IsAlive())
         DoMouseDown(Message, Button, {TShiftKey::ssDouble});
 }

@@ -3,8 +3,8 @@
 #include <memory>
 
 #include "vcl/controls/ControlTypes.h"
-#include "vcl/controls/Liveness.h"
 #include "vcl/platform/Messages.h"
+#include "vcl/system/Liveness.h"
 #include "vcl/system/Object.h"
 
 namespace vcl

@@ -102,14 +102,8 @@ void TMenu::SetImages(TCustomImageList* Value)
 {
     if (FImages == Value)
         return;
-    // A list that dies has let go of the link already.
-    if (TCustomImageList* const Old = FImagesLink.GetSender())
-        Old->UnregisterChanges(&FImagesLink);
     FImages = Value;
-    if (FImages) {
-        FImages->RegisterChanges(&FImagesLink);
-        FImages->FreeNotification(this);
-    }
+    FImagesLink.Follow(Value, *this);
     FItems->ForgetGlyphs();
     MenuChanged();
 }

@@ -3,9 +3,9 @@
 #include <memory>
 
 #include "vcl/controls/ControlTypes.h"
-#include "vcl/controls/Liveness.h"
 #include "vcl/controls/MenuItem.h"
 #include "vcl/controls/PopupMenuBase.h"
+#include "vcl/system/Liveness.h"
 
 namespace vcl
 {

@@ -148,14 +148,8 @@ void TMenuItem::SetSubMenuImages(TCustomImageList* Value)
 {
     if (FSubMenuImages == Value)
         return;
-    // A list that dies has let go of the link already.
-    if (TCustomImageList* const Old = FImagesLink.GetSender())
-        Old->UnregisterChanges(&FImagesLink);
     FSubMenuImages = Value;
-    if (FSubMenuImages) {
-        FSubMenuImages->RegisterChanges(&FImagesLink);
-        FSubMenuImages->FreeNotification(this);
-    }
+    FImagesLink.Follow(Value, *this);
     ForgetGlyphs();
     Changed();
 }

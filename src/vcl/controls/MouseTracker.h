@@ -1,7 +1,7 @@
 #pragma once
 
-#include "vcl/controls/Liveness.h"
 #include "vcl/platform/Messages.h"
+#include "vcl/system/Liveness.h"
 #include "vcl/system/Types.h"
 
 namespace vcl

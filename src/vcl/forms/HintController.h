@@ -3,7 +3,7 @@
 #include <memory>
 
 #include "vcl/controls/HintWindow.h"
-#include "vcl/controls/Liveness.h"
+#include "vcl/system/Liveness.h"
 
 namespace vcl
 {

@@ -85,6 +85,18 @@ TChangeLink::~TChangeLink()
         FSender->UnregisterChanges(this);
 }
 
+void TChangeLink::Follow(TCustomImageList* List, TComponent& Owner)
+{
+    if (TCustomImageList* const Old = FSender) {
+        Old->UnregisterChanges(this);
+        Owner.RemoveFreeNotification(Old);
+    }
+    if (!List)
+        return;
+    List->RegisterChanges(this);
+    Owner.FreeNotification(List);
+}
+
 void TChangeLink::Change()
 {
     OnChange(FSender);

@@ -39,6 +39,9 @@ public:
     ~TChangeLink() override;
 
     TCustomImageList* GetSender() const { return FSender; }
+    /// Listens to List (null: to none) in place of the list it listened to, on behalf of Owner, which is also
+    /// told of List's end through Notification. A list that is dying has let go of its links already.
+    void Follow(TCustomImageList* List, TComponent& Owner);
 
     TNotifyEvent OnChange;
 

@@ -4,8 +4,8 @@
 
 #include <memory>
 
-#include "vcl/controls/Liveness.h"
 #include "vcl/qt/EmbeddedForm.h"
+#include "vcl/system/Liveness.h"
 
 namespace vcl
 {
