@@ -62,6 +62,11 @@ void Wide(TScene& Scene)
     View.FullExpand();
 }
 
+void BringHeadIntoView(TScene& Scene)
+{
+    ViewOf(Scene).ScrollInView(ViewOf(Scene).GetItems()->GetItem(0));
+}
+
 void Simple(TScene& Scene)
 {
     FillCompany(ViewOf(Scene));
@@ -125,6 +130,21 @@ void TakeFocus(TScene& Scene)
     ViewOf(Scene).FocusNode(ViewOf(Scene).GetSelected());
 }
 
+/// Colours that are right on a dark desktop too; the default yellow needs dark text.
+void SystemColours(TScene& Scene)
+{
+    Selected(Scene);
+    TKSTreeView& View = ViewOf(Scene);
+    View.SetNodeColor(vcl::clBtnFace);
+    View.SetNodePenColor(vcl::clBtnShadow);
+    View.SetButtonColor(vcl::clWindow);
+    View.SetLineColor(vcl::clBtnShadow);
+    View.SetSelectedNodeColor(vcl::clHighlight);
+    View.SetNodeStyle(TKSTVNodeStyle::nsSimple);
+    for (TKSTreeNode* Node = View.GetItems()->GetFirstNode(); Node; Node = Node->GetNext())
+        Node->SetUseTreeColor(true);
+}
+
 void Edit(TScene& Scene)
 {
     TakeFocus(Scene);
@@ -140,7 +160,7 @@ std::vector<TState> TreeViewStates()
         {Page, "empty", &Empty},
         {Page, "one-node", &OneNode},
         {Page, "deep", &Deep},
-        {Page, "wide", &Wide},
+        {Page, "wide", &Wide, &BringHeadIntoView},
         {Page, "simple", &Simple},
         {Page, "shadowed", &Shadowed},
         {Page, "collapsed", &Collapsed},
@@ -151,6 +171,7 @@ std::vector<TState> TreeViewStates()
         {Page, "right-to-left", &RightToLeft},
         {Page, "selected", &Selected},
         {Page, "selected-with-focus", &Selected, &TakeFocus},
+        {Page, "system-colours", &SystemColours, &TakeFocus},
         {Page, "editing", &Selected, &Edit},
     };
 }

@@ -1,5 +1,6 @@
 #include "support/Expected.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <filesystem>
 #include <fstream>
@@ -99,7 +100,7 @@ std::string FirstDifference(std::string_view Expected, std::string_view Actual)
     }
 }
 
-std::string FirstDifference(const TPicture& Expected, const TPicture& Actual)
+std::string FirstDifference(const TPicture& Expected, const TPicture& Actual, int Allowed)
 {
     const auto Size = [](const TPicture& Picture) {
         return std::to_string(Picture.Width) + " x " + std::to_string(Picture.Height);
@@ -109,7 +110,7 @@ std::string FirstDifference(const TPicture& Expected, const TPicture& Actual)
     std::size_t First = Expected.Pixels.size();
     std::size_t Count = 0;
     for (std::size_t Index = Expected.Pixels.size(); Index-- > 0;) {
-        if (Expected.Pixels[Index] != Actual.Pixels[Index]) {
+        if (!IsAlike(Expected.Pixels[Index], Actual.Pixels[Index], Allowed)) {
             First = Index;
             ++Count;
         }
@@ -117,6 +118,14 @@ std::string FirstDifference(const TPicture& Expected, const TPicture& Actual)
     const std::size_t Width = static_cast<std::size_t>(Expected.Width);
     return std::to_string(Count) + " pixels, the first at " + std::to_string(First % Width) + ", " +
            std::to_string(First / Width);
+}
+
+bool AreAlike(const TPicture& Left, const TPicture& Right, int Allowed)
+{
+    if (Left.Width != Right.Width || Left.Height != Right.Height)
+        return false;
+    const auto Pixels = [Allowed](std::uint32_t L, std::uint32_t R) { return IsAlike(L, R, Allowed); };
+    return std::equal(Left.Pixels.begin(), Left.Pixels.end(), Right.Pixels.begin(), Pixels);
 }
 
 AssertionResult Missing(const fs::path& FileName, const std::string& Name, const fs::path& ActualName)
@@ -157,13 +166,14 @@ AssertionResult MatchesExpectedIn(const std::string& Folder, std::string_view Na
     return Differs(Relative, FirstDifference(*Expected, Actual), ActualName);
 }
 
-AssertionResult MatchesExpectedIn(const std::string& Folder, std::string_view Name, const TPicture& Actual)
+AssertionResult MatchesExpectedIn(const std::string& Folder, std::string_view Name, const TPicture& Actual,
+                                  int Allowed)
 {
     const std::string Relative(Name);
     const fs::path FileName = fs::path(Folder) / Relative;
     const bool Exists = fs::exists(FileName);
     const TPicture Expected = Exists ? ReadPng(FileName.string()) : TPicture{};
-    if (Exists && Expected == Actual) {
+    if (Exists && AreAlike(Expected, Actual, Allowed)) {
         RemoveLeftovers(FileName);
         return AssertionSuccess();
     }
@@ -178,8 +188,8 @@ AssertionResult MatchesExpectedIn(const std::string& Folder, std::string_view Na
     WritePng(Base + ".actual.png", Actual);
     if (!Exists)
         return Missing(FileName, Relative, Base + ".actual.png");
-    WritePng(Base + ".difference.png", Difference(Expected, Actual));
-    return Differs(Relative, FirstDifference(Expected, Actual), Base + ".actual.png");
+    WritePng(Base + ".difference.png", Difference(Expected, Actual, Allowed));
+    return Differs(Relative, FirstDifference(Expected, Actual, Allowed), Base + ".actual.png");
 }
 
 AssertionResult MatchesExpected(std::string_view Name, std::string_view Actual)
@@ -187,9 +197,9 @@ AssertionResult MatchesExpected(std::string_view Name, std::string_view Actual)
     return MatchesExpectedIn(KS_TEST_DATA, Name, Actual);
 }
 
-AssertionResult MatchesExpected(std::string_view Name, const TPicture& Actual)
+AssertionResult MatchesExpected(std::string_view Name, const TPicture& Actual, int Allowed)
 {
-    return MatchesExpectedIn(KS_TEST_DATA, Name, Actual);
+    return MatchesExpectedIn(KS_TEST_DATA, Name, Actual, Allowed);
 }
 
 std::string ReadTestData(std::string_view Name)

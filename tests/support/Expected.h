@@ -21,14 +21,15 @@ namespace vcl::tests
 /// Compares text, line by line in the message. Name is relative to tests/data.
 ::testing::AssertionResult MatchesExpected(std::string_view Name, std::string_view Actual);
 
-/// Compares pictures; every pixel must be equal. Name is relative to tests/data and ends in ".png".
-::testing::AssertionResult MatchesExpected(std::string_view Name, const TPicture& Actual);
+/// Compares pictures; no colour part of a pixel may differ by more than Allowed, 0 to 255. Name is relative
+/// to tests/data and ends in ".png".
+::testing::AssertionResult MatchesExpected(std::string_view Name, const TPicture& Actual, int Allowed = 0);
 
 /// The same two with the folder of the expected files given, for tests of the comparison itself.
 ::testing::AssertionResult MatchesExpectedIn(const std::string& Folder, std::string_view Name,
                                              std::string_view Actual);
 ::testing::AssertionResult MatchesExpectedIn(const std::string& Folder, std::string_view Name,
-                                             const TPicture& Actual);
+                                             const TPicture& Actual, int Allowed = 0);
 
 /// The whole of a file in tests/data; a missing one raises std::runtime_error.
 std::string ReadTestData(std::string_view Name);

@@ -113,6 +113,15 @@ TEST_F(ExpectedFiles, APictureIsComparedPixelByPixelAndItsDifferenceIsPainted)
     EXPECT_EQ(ReadPng(FFolder + "/p.difference.png"), (TPicture{2, 1, {0xFFFFFFFF, 0xFFFF0000}}));
 }
 
+TEST_F(ExpectedFiles, APictureMayDifferByWhatIsAllowedInEveryColourPart)
+{
+    WritePng(FFolder + "/p.png", TPicture{1, 1, {0xFF204060}});
+    EXPECT_TRUE(MatchesExpectedIn(FFolder, "p.png", TPicture{1, 1, {0xFF284058}}, 8));
+    EXPECT_FALSE(MatchesExpectedIn(FFolder, "p.png", TPicture{1, 1, {0xFF294060}}, 8));
+    EXPECT_FALSE(MatchesExpectedIn(FFolder, "p.png", TPicture{1, 1, {0xFF204069}}, 8));
+    EXPECT_FALSE(MatchesExpectedIn(FFolder, "p.png", TPicture{1, 2, {0xFF204060, 0xFF204060}}, 8));
+}
+
 TEST_F(ExpectedFiles, APictureOfAnotherSizeDiffers)
 {
     WritePng(FFolder + "/p.png", TPicture{1, 1, {0xFF000000}});

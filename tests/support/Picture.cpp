@@ -1,6 +1,7 @@
 #include "support/Picture.h"
 
 #include <algorithm>
+#include <cstdlib>
 #include <stdexcept>
 
 #include <png.h>
@@ -71,13 +72,25 @@ void WritePng(const std::string& FileName, const TPicture& Picture)
         throw std::runtime_error(FileName + ": " + Image.message);
 }
 
-TPicture Difference(const TPicture& Left, const TPicture& Right)
+bool IsAlike(std::uint32_t Left, std::uint32_t Right, int Allowed)
+{
+    for (int Shift = 0; Shift < 32; Shift += 8) {
+        const int LeftPart = static_cast<int>((Left >> Shift) & 0xFFu);
+        const int RightPart = static_cast<int>((Right >> Shift) & 0xFFu);
+        if (std::abs(LeftPart - RightPart) > Allowed)
+            return false;
+    }
+    return true;
+}
+
+TPicture Difference(const TPicture& Left, const TPicture& Right, int Allowed)
 {
     TPicture Result{std::max(Left.Width, Right.Width), std::max(Left.Height, Right.Height), {}};
     Result.Pixels.reserve(static_cast<std::size_t>(Result.Width) * static_cast<std::size_t>(Result.Height));
     for (int Y = 0; Y < Result.Height; ++Y) {
         for (int X = 0; X < Result.Width; ++X) {
-            const bool Same = Has(Left, X, Y) && Has(Right, X, Y) && At(Left, X, Y) == At(Right, X, Y);
+            const bool Same =
+                Has(Left, X, Y) && Has(Right, X, Y) && IsAlike(At(Left, X, Y), At(Right, X, Y), Allowed);
             Result.Pixels.push_back(Same ? Faded(At(Left, X, Y)) : DifferentPixel);
         }
     }

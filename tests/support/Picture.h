@@ -22,7 +22,10 @@ TPicture ReadPng(const std::string& FileName);
 /// Writes a 32-bit PNG file; throws std::runtime_error that names the file.
 void WritePng(const std::string& FileName, const TPicture& Picture);
 
-/// Where the two differ: equal pixels faded towards white, different ones red, as large as the larger one.
-TPicture Difference(const TPicture& Left, const TPicture& Right);
+/// Whether no part (alpha, red, green, blue) of one differs from the other's by more than Allowed, 0 to 255.
+bool IsAlike(std::uint32_t Left, std::uint32_t Right, int Allowed);
+
+/// Where the two are not alike: other pixels faded towards white, these red, as large as the larger one.
+TPicture Difference(const TPicture& Left, const TPicture& Right, int Allowed = 0);
 
 } // namespace vcl::tests
