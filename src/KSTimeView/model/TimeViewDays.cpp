@@ -35,6 +35,8 @@ void TTimeViewDays::SetDay(int Index, TKSTimeviewDay* Day)
 {
     if (GetDay(Index) == Day)
         return;
+    if (!Day)
+        throw vcl::EInvalidOperation("There is no day to put into the list");
     EnsureLayout();
     GetDay(Index)->FIndex = -1;
     FDays[static_cast<std::size_t>(Index)] = Day;

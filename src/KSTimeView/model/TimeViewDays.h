@@ -41,7 +41,7 @@ public:
     // The list. An index outside 0..Count-1 raises Exception "Index out of range".
     int GetCount() const { return static_cast<int>(FDays.size()); }
     TKSTimeviewDay* GetDay(int Index) const;
-    /// Replaces the entry. The day that stood there is the caller's to free.
+    /// Replaces the entry; EInvalidOperation for null. The day that stood there is the caller's to free.
     void SetDay(int Index, TKSTimeviewDay* Day);
     const std::vector<TKSTimeviewDay*>& GetList() const { return FDays; }
     std::vector<TKSTimeviewDay*>::const_iterator begin() const { return FDays.begin(); }

@@ -1,5 +1,8 @@
 #include "KSTimeView/model/TimeViewItems.h"
 
+#include <algorithm>
+#include <vector>
+
 #include "KSTimeView/model/TimeViewDays.h"
 #include "vcl/classes/List.h"
 #include "vcl/streaming/Filer.h"
@@ -147,10 +150,19 @@ void TKSTimeViewItems::Assign(const vcl::TPersistent* Source)
         return;
     }
     WhileUpdating([&] {
+        const vcl::TAliveGuard Witness(FLife);
         vcl::TMemoryStream Stream;
         Items->WriteData(Stream);
+        // The stream holds the low half of a pointer.
+        std::vector<void*> Pointers;
+        for (const TKSTimeViewItem* Item : *Items)
+            Pointers.push_back(Item->GetData());
         Stream.SetPosition(0);
         ReadData(Stream);
+        if (!Witness.IsAlive())
+            return;
+        for (int Index = 0; Index < std::min(GetCount(), static_cast<int>(Pointers.size())); ++Index)
+            FList[Index]->SetData(Pointers[static_cast<std::size_t>(Index)]);
     });
 }
 

@@ -126,6 +126,7 @@ private:
     TKSTreeNode* LastNode() const;
     bool DiffersFrom(const TKSTreeNodes& Ancestor) const;
     void ReadTopNodes(vcl::TStream& Stream);
+    void SetPointers(const std::vector<void*>& Pointers);
     void ReadLines(const vcl::TStringList& Lines);
     /// A node that nobody is deleting yet; those below others that are being deleted first.
     TKSTreeNode* FirstStaying() const;

@@ -156,10 +156,24 @@ void TKSTreeNodes::Assign(const vcl::TPersistent* Source)
     treeview::Coalesced(FHost, FLife, treeview::DeletionEvents, [&] {
         vcl::TMemoryStream Stream;
         Nodes->WriteData(Stream);
+        // The stream holds the low half of a pointer.
+        std::vector<void*> Pointers;
+        for (const TKSTreeNode* Node = Nodes->FFirstNode; Node; Node = Node->GetNext())
+            Pointers.push_back(Node->GetData());
         Clear();
         if (!Witness.IsAlive())
             return;
         Stream.SetPosition(0);
         ReadData(Stream);
+        if (Witness.IsAlive())
+            SetPointers(Pointers);
     });
+}
+
+/// In the order of GetNext.
+void TKSTreeNodes::SetPointers(const std::vector<void*>& Pointers)
+{
+    auto Pointer = Pointers.begin();
+    for (TKSTreeNode* Node = FFirstNode; Node && Pointer != Pointers.end(); Node = Node->GetNext())
+        Node->SetData(*Pointer++);
 }

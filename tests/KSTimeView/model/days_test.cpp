@@ -108,6 +108,8 @@ TEST(TimeViewDays, AnIndexOutsideTheDaysRaises)
     EXPECT_EQ(MessageOf([&] { View.Day(2); }), "Index out of range");
     EXPECT_EQ(MessageOf([&] { View.Day(-1); }), "Index out of range");
     EXPECT_EQ(MessageOf([&] { View.Days().SetDay(2, View.Day(0)); }), "Index out of range");
+    EXPECT_THROW(View.Days().SetDay(1, nullptr), vcl::EInvalidOperation);
+    EXPECT_EQ(View.Days().GetCount(), 2);
 }
 
 TEST(TimeViewDays, WritingAnEntryReplacesIt)

@@ -173,6 +173,23 @@ TEST(ItemsStream, AssignCopiesAnotherCollectionAndRepaintsOnce)
     EXPECT_EQ(Saved(View.Items()), Saved(Source.Items()));
 }
 
+TEST(ItemsStream, DataKeepsItsLow32BitsAndACopyAllOfThem)
+{
+    void* const Long = reinterpret_cast<void*>(std::uintptr_t{0x1122334455667788});
+    TFakeView Source;
+    Source.Add(1, 2);
+    Source.Items().AddObject("", 1, 2, false, Long);
+    TFakeView View;
+    View.Items().Assign(&Source.Items());
+    EXPECT_EQ(View.Items()[0]->GetData(), nullptr);
+    EXPECT_EQ(View.Items()[1]->GetData(), Long);
+    vcl::TMemoryStream Stream;
+    Source.Items().WriteData(Stream);
+    Stream.SetPosition(0);
+    View.Items().ReadData(Stream);
+    EXPECT_EQ(View.Items()[1]->GetData(), reinterpret_cast<void*>(std::uintptr_t{0x55667788}));
+}
+
 TEST(ItemsStream, AssignFromSomethingElseFailsAsForAnyPersistent)
 {
     TFakeView View;

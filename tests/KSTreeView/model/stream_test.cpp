@@ -90,13 +90,20 @@ TEST(Stream, ReadingRestoresShapeTextsAndValues)
     EXPECT_EQ(Written(Target.Items()), Stream.GetBytes());
 }
 
-TEST(Stream, DataKeepsItsLow32Bits)
+TEST(Stream, DataKeepsItsLow32BitsAndACopyAllOfThem)
 {
+    void* const Long = reinterpret_cast<void*>(std::uintptr_t{0x1122334455667788});
     TKSTreeNodes Nodes;
-    Nodes.AddObject(nullptr, "", reinterpret_cast<void*>(std::uintptr_t{0x1122334455667788}));
+    Nodes.AddChildObject(Nodes.Add(nullptr, "A"), "B", Long);
     TKSTreeNodes Copy;
     Copy.Assign(&Nodes);
-    EXPECT_EQ(Copy.GetFirstNode()->GetData(), reinterpret_cast<void*>(std::uintptr_t{0x55667788}));
+    EXPECT_EQ(Copy.GetItem(0)->GetData(), nullptr);
+    EXPECT_EQ(Copy.GetItem(1)->GetData(), Long);
+    vcl::TMemoryStream Stream;
+    Nodes.WriteData(Stream);
+    Stream.SetPosition(0);
+    Copy.ReadData(Stream);
+    EXPECT_EQ(Copy.GetItem(1)->GetData(), reinterpret_cast<void*>(std::uintptr_t{0x55667788}));
 }
 
 TEST(Stream, AnInfoSizeAbove16OrBelow0IsAReadErrorAndNodesReadSoFarStay)
