@@ -40,10 +40,15 @@ TRect TClientSurface::ClientRect() const
 
 void TClientSurface::Attach()
 {
+    FitSurface();
+    FCanvas->SetPainter(FTouch.get());
+}
+
+void TClientSurface::FitSurface()
+{
     FControl.HandleNeeded();
     if (FSurface.GetWidth() != ClientRect().Width() || FSurface.GetHeight() != ClientRect().Height())
         Resize();
-    FCanvas->SetPainter(FTouch.get());
 }
 
 void TClientSurface::Resize()
@@ -132,7 +137,11 @@ private:
 void TClientSurface::Paint()
 {
     TAliveGuard Guard(FControl);
-    Attach();
+    // A painting on something else that this one interrupts gets its painter back.
+    if (FPainting == 0)
+        Attach();
+    else
+        FitSurface();
     const TRegion Damage = std::move(FDamage);
     FDamage.Clear();
     {

@@ -42,6 +42,7 @@ public:
     TSurface& GetSurface() { return FSurface; }
     /// Attaches the canvas, making handle and pixels when there are none.
     void Attach();
+    void FitSurface();
     /// The handle is gone: no pixels, no damage.
     void Drop();
     /// Something was drawn: outside a painting it goes to the screen.

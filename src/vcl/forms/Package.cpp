@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <cstdlib>
+#include <filesystem>
 #include <set>
 #include <vector>
 
@@ -23,13 +24,22 @@ std::vector<AnsiString> FileNames(const AnsiString& Name)
     return {"lib" + Name + ".so.1", "lib" + Name + ".so"};
 }
 
-/// Where to look, in order: whole paths first, then names for the system's own search, which begins beside
-/// this library.
+/// The folder of the library that this code is in. The system's own search begins there too, but not when
+/// another library has taken dlopen's place, as checkers of memory do.
+AnsiString OwnFolder()
+{
+    Dl_info Info{};
+    if (dladdr(reinterpret_cast<const void*>(&LoadPackage), &Info) == 0 || !Info.dli_fname)
+        return {};
+    return std::filesystem::path(Info.dli_fname).parent_path().string();
+}
+
+/// Where to look, in order: whole paths first, then names for the system's own search.
 std::vector<AnsiString> Candidates(const AnsiString& Name)
 {
     std::vector<AnsiString> Result;
     const char* const Path = std::getenv("KSSUITE_PACKAGE_PATH");
-    AnsiString Folders = Path ? Path : "";
+    AnsiString Folders = (Path ? Path : "") + (":" + OwnFolder());
     while (!Folders.empty()) {
         const std::size_t Colon = std::min(Folders.find(':'), Folders.size());
         const AnsiString Folder = Folders.substr(0, Colon);

@@ -208,6 +208,31 @@ TEST_F(TControlTest, PaintToDrawsTheControlItsChildrenAndNothingOutsideOfIt)
     EXPECT_EQ(Picture.GetCanvas()->GetPixel(9, 20), ColorToRGB(clBtnFace));
 }
 
+TEST_F(TControlTest, APaintingOfTheWindowInterruptsPaintToWithoutTakingItsTarget)
+{
+    TProbe& Probe = AddProbe();
+    bool IsOnWindow = false;
+    TProbe* Painted = nullptr;
+    Probe.OnPaintProbe = [&](TCanvas& Canvas) {
+        Canvas.GetBrush()->SetColor(clBlue);
+        Canvas.FillRect({0, 0, 50, 80});
+        if (Painted && !std::exchange(IsOnWindow, true)) {
+            Painted->Refresh();
+            IsOnWindow = false;
+            Painted = nullptr;
+        }
+        Canvas.GetBrush()->SetColor(clRed);
+        Canvas.FillRect({50, 0, 100, 80});
+    };
+    ShowForm();
+    Painted = &Probe;
+    TBitmap Picture;
+    Picture.SetSize(400, 300);
+    Form().PaintTo(*Picture.GetCanvas(), 0, 0);
+    EXPECT_EQ(Picture.GetCanvas()->GetPixel(20, 30), clBlue);
+    EXPECT_EQ(Picture.GetCanvas()->GetPixel(100, 30), clRed);
+}
+
 TEST_F(TControlTest, NewSystemColoursRepaintEveryWindow)
 {
     TProbe& Probe = AddProbe();

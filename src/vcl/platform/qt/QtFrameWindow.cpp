@@ -291,7 +291,8 @@ void TFrameWindow::WheelTurned(QWheelEvent& Event)
         return;
     }
     Event.accept();
-    FWheel += Event.angleDelta();
+    // To the right is negative with the toolkit, and positive in messages.
+    FWheel += QPoint(-Event.angleDelta().x(), Event.angleDelta().y());
     const unsigned Flags = KeyFlags(Event.modifiers(), Event.buttons());
     const TInputScope Scope(Flags);
     const std::shared_ptr<TWindow> Kept = Keep();
