@@ -1,6 +1,7 @@
 #include "KSTreeView/layout/Chart.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace treeview
 {
@@ -93,6 +94,7 @@ void TChart::Collect(const TKSTreeNodes& Nodes)
             if (Node->GetLevel() <= StrayLevel)
                 StrayLevel = INT32_MAX;
             FNodes.push_back(Node);
+            Node->FShownSerial = Nodes.GetShapeSerial();
             if (StrayLevel == INT32_MAX)
                 FPlaced.push_back(Node);
             else
@@ -142,7 +144,7 @@ void TChart::Arrange(const TKSTreeNodes& Nodes, const TChartMetrics& Metrics)
 vcl::TPoint TChart::OriginFor(const TChartFrame& Frame) const
 {
     const auto Along = [&](int Room, int Total, int Spacing, int Scroll) {
-        if (2 * std::int64_t{Spacing} + Total <= Room)
+        if (NeededRoom(Total, Spacing) <= Room)
             return Limited((std::int64_t{Room} - Total) / 2);
         return Frame.IsPaper ? 0 : Limited(std::int64_t{Spacing} - Scroll);
     };
@@ -201,6 +203,8 @@ void TChart::Place(vcl::TPoint Origin)
         Centers[Level] = (Level == 0 ? Origin.X : Centers[Level - 1]) + Node->FXOffset;
         Node->FRect = BoxAt(Centers[Level], Node->GetLevel(), FMetrics, Origin);
     }
+    if (!FAreRowsChecked)
+        CheckRows();
 }
 
 void TChart::Shift(const TKSTreeNodes& Nodes, int DeltaX, int DeltaY)
@@ -227,18 +231,36 @@ void TChart::BuildRows()
     for (std::size_t Index = 0; Index < FNodes.size(); ++Index)
         FRowItems[Next[static_cast<std::size_t>(FNodes[Index]->GetLevel())]++] =
             static_cast<std::uint32_t>(Index);
-    // With spacings or widths below zero neighbours may stand in any order.
-    const bool IsOrderly = FMetrics.HorzSpacing >= 0 && FMetrics.NodeWidth >= 0;
-    for (TRow& Row : FRows)
-        Row.IsSorted = IsOrderly;
+    FAreRowsChecked = false;
 }
 
-bool TChart::Touches(const TKSTreeNode& Node, const vcl::TRect& Area) const
+namespace
+{
+
+/// The edges of a box and of all that hangs below it.
+std::pair<int, int> SpanOf(const TKSTreeNode& Node)
 {
     const int Center = Node.GetCenter();
-    const int Left = std::min(Node.GetRect().Left, Center + Node.GetLeftExtent());
-    const int Right = std::max(Node.GetRect().Right, Center + Node.GetRightExtent());
-    return Left < Area.Right && Right > Area.Left;
+    return {std::min(Node.GetRect().Left, Center + Node.GetLeftExtent()),
+            std::max(Node.GetRect().Right, Center + Node.GetRightExtent())};
+}
+
+} // namespace
+
+/// Odd halves that add up level by level, and spacings or widths below zero, may put neighbours into any
+/// order.
+void TChart::CheckRows()
+{
+    FAreRowsChecked = true;
+    for (std::size_t Level = 0; Level + 1 < FRows.size(); ++Level) {
+        bool IsSorted = true;
+        for (std::size_t Item = FRows[Level].First + 1; IsSorted && Item < FRows[Level + 1].First; ++Item) {
+            const auto [Left, Right] = SpanOf(*FNodes[FRowItems[Item - 1]]);
+            const auto [NextLeft, NextRight] = SpanOf(*FNodes[FRowItems[Item]]);
+            IsSorted = Left <= NextLeft && Right <= NextRight;
+        }
+        FRows[Level].IsSorted = IsSorted;
+    }
 }
 
 void TChart::FindInRow(std::size_t Level, const vcl::TRect& Area, std::vector<std::uint32_t>& Found) const
@@ -247,13 +269,11 @@ void TChart::FindInRow(std::size_t Level, const vcl::TRect& Area, std::vector<st
     const auto End = FRowItems.begin() + static_cast<std::ptrdiff_t>(FRows[Level + 1].First);
     const bool IsSorted = FRows[Level].IsSorted;
     if (IsSorted)
-        Item = std::partition_point(Item, End, [&](std::uint32_t Index) {
-            const TKSTreeNode& Node = *FNodes[Index];
-            return std::max(Node.GetRect().Right, Node.GetCenter() + Node.GetRightExtent()) <= Area.Left;
-        });
+        Item = std::partition_point(
+            Item, End, [&](std::uint32_t Index) { return SpanOf(*FNodes[Index]).second <= Area.Left; });
     for (; Item != End; ++Item) {
-        const TKSTreeNode& Node = *FNodes[*Item];
-        if (Touches(Node, Area))
+        const auto [Left, Right] = SpanOf(*FNodes[*Item]);
+        if (Left < Area.Right && Right > Area.Left)
             Found.push_back(*Item);
         else if (IsSorted)
             break;
@@ -277,7 +297,7 @@ void TChart::Find(const vcl::TRect& Area, int Margin, std::vector<TKSTreeNode*>&
     const std::int64_t FirstRow = (std::int64_t{Wide.Top} - FOrigin.Y) / Pitch - 1;
     const std::int64_t LastRow = (std::int64_t{Wide.Bottom} - FOrigin.Y) / Pitch + 1;
     std::vector<std::uint32_t> Indexes;
-    const std::int64_t End = std::min<std::int64_t>(LastRow, FMaxLevel);
+    const std::int64_t End = std::min(LastRow, static_cast<std::int64_t>(FRows.size()) - 2);
     for (std::int64_t Level = std::max<std::int64_t>(FirstRow, 0); Level <= End; ++Level)
         FindInRow(static_cast<std::size_t>(Level), Wide, Indexes);
     std::sort(Indexes.begin(), Indexes.end());

@@ -18,6 +18,12 @@ struct TChartFrame {
     bool IsPaper = false;
 };
 
+/// The length a chart takes along an axis, with the spacing around it.
+constexpr std::int64_t NeededRoom(int Total, int Spacing)
+{
+    return 2 * std::int64_t{Spacing} + Total;
+}
+
 /// What a point of the chart holds.
 struct TChartHit {
     TKSTVHitTests Tests;
@@ -28,7 +34,7 @@ struct TChartHit {
 /// into the nodes and keeps the shown ones in rows, to find quickly what an area or a point touches.
 ///
 ///     Chart.Arrange(Nodes, Metrics);
-///     Chart.Place(Chart.OriginFor(Metrics, Frame));
+///     Chart.Place(Chart.OriginFor(Frame));
 ///
 /// Arrange does nothing when neither nodes nor metrics changed. All its work is proportional to the number of
 /// visible nodes, whatever the depth; coordinates stop at about a thousand million.
@@ -67,14 +73,14 @@ public:
 private:
     struct TRow {
         std::size_t First = 0;
-        bool IsSorted = true;
+        bool IsSorted = false; // from left to right, with all that hangs below
     };
 
     void Collect(const TKSTreeNodes& Nodes);
     void ArrangeTop();
     void BuildRows();
+    void CheckRows();
     void FindInRow(std::size_t Level, const vcl::TRect& Area, std::vector<std::uint32_t>& Found) const;
-    bool Touches(const TKSTreeNode& Node, const vcl::TRect& Area) const;
     static void ArrangeOne(TKSTreeNode& Node, const TChartMetrics& Metrics);
 
     TChartMetrics FMetrics;
@@ -84,6 +90,7 @@ private:
     std::vector<std::uint32_t> FRowItems; // indexes into FNodes, row by row
     std::vector<TRow> FRows;              // and one more for the end
     bool FHasStrays = false;              // visible nodes that the layout does not reach
+    bool FAreRowsChecked = false;
     int FMaxLevel = 0;
     vcl::TSize FTotal;
     vcl::TPoint FOrigin;

@@ -1,5 +1,7 @@
 #include "KSTreeView/model/NodeSelection.h"
 
+#include <exception>
+
 #include "KSTreeView/model/NodeRef.h"
 
 namespace treeview
@@ -22,32 +24,71 @@ bool TNodeSelection::LeaveSelected(const TNodeRef& Next, bool WantsNode)
     return Witness.IsAlive() && (!WantsNode || Next);
 }
 
+/// The node that is being told to have become selected, until the end of the block.
+class TNodeSelection::TTelling
+{
+public:
+    TTelling(TNodeSelection& Selection, TKSTreeNode* Node)
+        : FSelection(Selection), FBefore(Selection.FTold), FWitness(Selection.FLife)
+    {
+        FSelection.FTold = Node;
+    }
+    ~TTelling()
+    {
+        if (FWitness.IsAlive())
+            FSelection.FTold = FBefore.Get();
+    }
+    TTelling(const TTelling&) = delete;
+    TTelling& operator=(const TTelling&) = delete;
+
+private:
+    TNodeSelection& FSelection;
+    TNodeRef FBefore;
+    vcl::TAliveGuard FWitness;
+};
+
 void TNodeSelection::Select(TKSTreeNode* Node)
 {
-    if (Node == FSelected)
+    // A handler may select what it is told to be selected.
+    if (Node == FSelected || (Node && Node == FTold))
         return;
     const vcl::TAliveGuard Witness(FLife);
     const TNodeRef Next(Node);
     if (FSelected && !LeaveSelected(Next, Node != nullptr))
         return;
-    if (Next) {
-        Node->ChangeState(nsSelected, true);
-        const std::uint64_t Serial = ++FSerial;
-        FEvents.Change(Node);
-        if (!Witness.IsAlive())
-            return;
-        if (FSerial != Serial) {
-            if (Next && FSelected != Node)
-                Node->ChangeState(nsSelected, false);
-            return;
-        }
+    const std::uint64_t Serial = Next ? ++FSerial : FSerial;
+    std::exception_ptr Failure;
+    try {
         if (Next)
-            Node->Draw();
-        if (!Witness.IsAlive())
-            return;
+            Enter(Next);
+    } catch (...) {
+        Failure = std::current_exception();
     }
-    FSelected = Next.Get();
-    FEvents.ScrollInView(FSelected);
+    if (Witness.IsAlive() && FSerial == Serial) {
+        FSelected = Next.Get();
+        if (!Failure)
+            FEvents.ScrollInView(FSelected);
+    }
+    if (Failure)
+        std::rethrow_exception(Failure);
+}
+
+/// Marks the new node and tells; a handler may select another one meanwhile.
+void TNodeSelection::Enter(const TNodeRef& Next)
+{
+    const vcl::TAliveGuard Witness(FLife);
+    TKSTreeNode* const Node = Next.Get();
+    const std::uint64_t Serial = FSerial;
+    Node->ChangeState(nsSelected, true);
+    {
+        const TTelling Telling(*this, Node);
+        FEvents.Change(Node);
+    }
+    if (!Witness.IsAlive() || !Next)
+        return;
+    if (FSerial != Serial && FSelected != Node)
+        Node->ChangeState(nsSelected, false);
+    Node->Draw();
 }
 
 void TNodeSelection::Focus(TKSTreeNode* Node)
@@ -58,14 +99,22 @@ void TNodeSelection::Focus(TKSTreeNode* Node)
     const TNodeRef Next(Node);
     TKSTreeNode* const Old = FFocused;
     FFocused = Node;
-    if (Old) {
-        Old->ChangeState(nsFocused, false);
-        Old->Draw();
+    std::exception_ptr Failure;
+    try {
+        if (Old) {
+            Old->ChangeState(nsFocused, false);
+            Old->Draw();
+        }
+    } catch (...) {
+        Failure = std::current_exception();
     }
-    if (!Witness.IsAlive() || !Next || FFocused != Node)
-        return;
-    Node->ChangeState(nsFocused, true);
-    Node->Draw();
+    if (Witness.IsAlive() && Next && FFocused == Node) {
+        Node->ChangeState(nsFocused, true);
+        if (!Failure)
+            Node->Draw();
+    }
+    if (Failure)
+        std::rethrow_exception(Failure);
 }
 
 void TNodeSelection::SetEdited(TKSTreeNode* Node)
@@ -77,6 +126,12 @@ void TNodeSelection::SetEdited(TKSTreeNode* Node)
         Node->ChangeState(nsEdited, true);
 }
 
+void TNodeSelection::EndEdited()
+{
+    if (FEdited)
+        FEdited->ChangeState(nsEdited, false);
+}
+
 void TNodeSelection::Forget(const TKSTreeNode* Node)
 {
     if (FSelected == Node)
@@ -85,6 +140,8 @@ void TNodeSelection::Forget(const TKSTreeNode* Node)
         FFocused = nullptr;
     if (FEdited == Node)
         FEdited = nullptr;
+    if (FTold == Node)
+        FTold = nullptr;
 }
 
 } // namespace treeview

@@ -35,21 +35,27 @@ public:
     TKSTreeNode* GetEdited() const { return FEdited; }
 
     /// Asks with the old node, then tells with the new one; null deselects and tells nobody. A handler that
-    /// selects another node has its way.
+    /// selects another node has its way; what it raises comes out here, with the new node selected.
     void Select(TKSTreeNode* Node);
     void Focus(TKSTreeNode* Node);
     /// Null: none. Draws nothing.
     void SetEdited(TKSTreeNode* Node);
+    /// Takes the mark from the edited node, which stays the edited one until SetEdited.
+    void EndEdited();
     /// The node goes: it is none of the three any more, without events.
     void Forget(const TKSTreeNode* Node);
 
 private:
+    class TTelling;
+
     bool LeaveSelected(const TNodeRef& Next, bool WantsNode);
+    void Enter(const TNodeRef& Next);
 
     ISelectionEvents& FEvents;
     TKSTreeNode* FSelected = nullptr;
     TKSTreeNode* FFocused = nullptr;
     TKSTreeNode* FEdited = nullptr;
+    TKSTreeNode* FTold = nullptr;
     std::uint64_t FSerial = 0; // counts the nodes that were selected
     vcl::TLiveness FLife;
 };

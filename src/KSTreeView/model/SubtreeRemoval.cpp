@@ -15,8 +15,14 @@ TSubtreeRemoval::TSubtreeRemoval(TKSTreeNode& Root, bool Force)
 
 TSubtreeRemoval::~TSubtreeRemoval()
 {
+    Finish();
+}
+
+void TSubtreeRemoval::Finish()
+{
     if (FNodes)
         std::erase(FNodes->FRemovals, this);
+    FNodes = nullptr;
 }
 
 template <class TAction>
@@ -65,6 +71,7 @@ void TSubtreeRemoval::Run()
 
 bool TSubtreeRemoval::Enter(TKSTreeNode* Node)
 {
+    // The mark comes first: a handler that deletes the node it is told about does not start again.
     Node->FDeleting = true;
     const bool Told = Try([&] {
         if (ITreeHost* const Host = Node->Host())
@@ -79,10 +86,11 @@ bool TSubtreeRemoval::Enter(TKSTreeNode* Node)
 void TSubtreeRemoval::CollapseBelow(TKSTreeNode* Node)
 {
     ITreeHost* const Host = Node->Host();
-    const bool IsHeard = Host && Host->IsAnyAssigned({TTreeEvent::Collapsing, TTreeEvent::Collapsed,
-                                                      TTreeEvent::Changing, TTreeEvent::Change});
-    if (FCollapsed && !IsHeard)
+    const bool IsHeard = Host && Host->IsAnyAssigned({TTreeEvent::Collapsing, TTreeEvent::Collapsed});
+    if (FCollapsed && !IsHeard) {
+        Node->TakeSelectionFromBelow();
         return;
+    }
     Node->Collapse(true);
     FCollapsed = FCollapsed || (Node == &FRoot && !IsHeard);
 }
@@ -94,6 +102,11 @@ void TSubtreeRemoval::Unmark(TKSTreeNode* Node)
         Node = Node->FParent;
     }
     FRoot.FDeleting = false;
+    TKSTreeNodes* const Nodes = FNodes;
+    Finish();
+    // Some of what was below the root has gone.
+    if (Nodes && FHasRemoved)
+        Try([&] { Nodes->RefreshUnlessUpdating(); });
 }
 
 void TSubtreeRemoval::Settle(TKSTreeNode* Node)
@@ -126,18 +139,20 @@ void TSubtreeRemoval::OrphanChildren(TKSTreeNode* Node)
             Child->FOwner->Uncount(Child);
     }
     Node->FLastChild = nullptr;
+    Node->FChildCount = 0;
 }
 
 void TSubtreeRemoval::Leave(TKSTreeNode* Node)
 {
     OrphanChildren(Node);
-    if (ITreeHost* const Host = Node->Host())
-        Host->ForgetNode(Node);
+    Try([&] {
+        if (ITreeHost* const Host = Node->Host())
+            Host->ForgetNode(Node);
+    });
     TKSTreeNodes* const Nodes = Node->FOwner;
     TKSTreeNode* const Parent = Node->FParent;
-    const bool IsShown = Node->FLinked && Nodes && !Nodes->IsUpdating();
-    const bool WasVisible = IsShown && Node->IsVisible();
-    const bool WasLinked = Node->FLinked;
+    const bool LeavesGap = Node->FLinked && Nodes && !(Parent && Parent->FDeleting);
+    const bool WasVisible = LeavesGap && Node->IsVisible();
     if (Nodes) {
         Nodes->Uncount(Node);
         Nodes->Unlink(Node);
@@ -146,30 +161,26 @@ void TSubtreeRemoval::Leave(TKSTreeNode* Node)
         // The collection is gone; what is left of the tree is its marked nodes.
         Parent->FFirstChild = Parent->FLastChild = nullptr;
     }
-    if (WasLinked && Nodes)
-        Try([&] { TellOfGap(Parent, WasVisible); });
+    Node->FParent = nullptr;
+    FHasRemoved = true;
+    if (Node == &FRoot)
+        Finish();
     vcl::TObject::operator delete (Node, std::destroying_delete_t{});
+    if (LeavesGap)
+        Try([&] { TellOfGap(*Nodes, Parent, WasVisible); });
 }
 
-void TSubtreeRemoval::TellOfGap(TKSTreeNode* Parent, bool WasVisible)
+/// The last thing to happen to a node that leaves others behind: painting, whose handlers may do anything.
+void TSubtreeRemoval::TellOfGap(TKSTreeNodes& Nodes, TKSTreeNode* Parent, bool WasVisible)
 {
-    const bool IsUpdating = FNodes->IsUpdating();
-    if (!Parent) {
-        FNodes->RefreshUnlessUpdating();
-        return;
-    }
-    if (Parent->FDeleting)
-        return;
-    if (!Parent->FFirstChild) {
+    if (Parent && !Parent->FFirstChild) {
         Parent->FHasChildren = false;
         Parent->FStates.Exclude(TKSTNNodeState::nsExpanded);
     }
-    if (IsUpdating)
-        return;
-    if (WasVisible)
-        FNodes->RefreshUnlessUpdating();
-    else
+    if (Parent && !WasVisible && !Nodes.IsUpdating())
         Parent->Draw();
+    else
+        Nodes.RefreshUnlessUpdating();
 }
 
 TKSTreeNode* TSubtreeRemoval::FirstStaying() const

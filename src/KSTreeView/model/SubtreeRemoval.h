@@ -37,8 +37,10 @@ private:
     /// All children are gone: the view lets go of the node.
     void Settle(TKSTreeNode* Node);
     void Leave(TKSTreeNode* Node);
+    /// The root is on its own, or stays: the collection has no more to do with this removal.
+    void Finish();
     void OrphanChildren(TKSTreeNode* Node);
-    void TellOfGap(TKSTreeNode* Parent, bool WasVisible);
+    void TellOfGap(TKSTreeNodes& Nodes, TKSTreeNode* Parent, bool WasVisible);
     void Unmark(TKSTreeNode* Node);
     template <class TAction>
     bool Try(TAction&& Action);
@@ -49,6 +51,7 @@ private:
     bool FForce;
     bool FCollapsed = false; // everything below the root, with nobody who could object
     bool FAbandoned = false;
+    bool FHasRemoved = false; // a node that the root leaves behind when it stays
 };
 
 } // namespace treeview

@@ -131,7 +131,7 @@ void TKSTreeNode::ChangeState(TKSTNNodeState State, bool Value)
 void TKSTreeNode::SetSelected(bool Value)
 {
     ITreeHost* const View = Host();
-    if (!View)
+    if (!View || !FLinked)
         return;
     if (Value)
         View->SelectNode(this);
@@ -141,13 +141,13 @@ void TKSTreeNode::SetSelected(bool Value)
 
 void TKSTreeNode::SetFocused(bool)
 {
-    if (ITreeHost* const View = Host())
+    if (ITreeHost* const View = FLinked ? Host() : nullptr)
         View->FocusNode(this);
 }
 
 void TKSTreeNode::EditText()
 {
-    if (ITreeHost* const View = Host())
+    if (ITreeHost* const View = FLinked ? Host() : nullptr)
         View->EditNode(this);
 }
 

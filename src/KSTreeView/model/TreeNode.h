@@ -1,5 +1,6 @@
 #pragma once
 
+#include <cstdint>
 #include <new>
 
 #include "KSTreeView/model/TreeHost.h"
@@ -24,8 +25,8 @@ class TSubtreeRemoval;
 ///     Boss->Expand(false);
 ///
 /// The collection that made it owns it, and it never leaves that collection alive. A node constructed on its
-/// own belongs to no chain: it can be filled and assigned, but touches no view. Handlers of events may delete
-/// the node they are told about.
+/// own belongs to no chain: it can be filled and assigned, but is neither drawn nor selected, focused or
+/// edited. Handlers of events may delete the node they are told about.
 class TKSTreeNode : public vcl::TPersistent
 {
     VCL_CLASS
@@ -76,6 +77,8 @@ public:
     bool GetEdited() const { return FStates.Contains(TKSTNNodeState::nsEdited); }
     TKSTNNodeStates GetStates() const { return FStates; }
     bool GetDeleting() const { return FDeleting; }
+    /// False for a node constructed on its own.
+    bool GetLinked() const { return FLinked; }
 
     // Place
     TKSTreeNodes* GetNodes() const { return FOwner; }
@@ -136,7 +139,7 @@ public:
     void MoveTo(TKSTreeNode* Parent);
 
     // Copying
-    /// Copies text, data, image, colours and HasChildren, and focuses this node.
+    /// Copies text, data, image, colours and HasChildren, and focuses this node if it stands in a view.
     void Assign(const vcl::TPersistent* Source) override;
     /// Compares text and the program's three values; image, colours and children do not count.
     bool IsEqual(const TKSTreeNode& Node) const;
@@ -192,6 +195,8 @@ private:
     bool IsOwnerUpdating() const;
     void ShapeChanged();
     void ExpandThis(bool Expand);
+    /// If a node below is selected, focus and selection come to this one.
+    void TakeSelectionFromBelow();
     void ChangeState(TKSTNNodeState State, bool Value);
     /// The node after this one and all below it.
     TKSTreeNode* NextOutside() const;
@@ -222,6 +227,9 @@ private:
     bool FDeleting = false; // from the start of its deletion on
     bool FLinked = false;   // stands in the collection
     bool FCounted = false;  // is one of the collection's Count
+    bool FIsExpanding = false;
+    bool FIsCollapsing = false;
+    std::uint64_t FShownSerial = 0; // of the collection's shape when the node was last found visible
     // Written by the layout.
     int FXOffset = 0;
     int FLeftExtent = 0;

@@ -56,12 +56,17 @@ void TKSTreeNode::Collapse(bool Recurse)
 {
     const TNodeRef Self(this);
     ExpandNode(false, Recurse);
-    if (!Self)
-        return;
-    ITreeHost* const View = Host();
+    if (Self)
+        TakeSelectionFromBelow();
+}
+
+void TKSTreeNode::TakeSelectionFromBelow()
+{
+    ITreeHost* const View = FLinked ? Host() : nullptr;
     const TKSTreeNode* const Selected = View ? View->SelectedNode() : nullptr;
-    if (!Selected || Selected == this || !Selected->HasAsParent(this))
+    if (!Selected || Selected->FLevel <= FLevel || !Selected->HasAsParent(this))
         return;
+    const TNodeRef Self(this);
     View->FocusNode(this);
     if (Self)
         View->SelectNode(this);
@@ -87,18 +92,33 @@ void TKSTreeNode::ExpandNode(bool Expand, bool Recurse)
     };
     if (FOwner)
         treeview::Coalesced(Host(), FOwner->GetLife(), treeview::ExpansionEvents, ExpandAll);
+    else
+        ExpandAll();
 }
 
 void TKSTreeNode::ExpandThis(bool Expand)
 {
+    bool& IsUnderWay = Expand ? FIsExpanding : FIsCollapsing;
+    // A handler may do again what it is told of, as one that deletes the children of the node does.
+    if (IsUnderWay)
+        return;
     const TExpandingMark Mark(FOwner);
     const TNodeRef Self(this);
-    if (!DoCanExpand(Expand))
-        return;
+    IsUnderWay = true;
+    bool CanExpand = false;
+    try {
+        CanExpand = DoCanExpand(Expand);
+        if (CanExpand && Self)
+            DoExpand(Expand);
+    } catch (...) {
+        if (Self)
+            IsUnderWay = false;
+        throw;
+    }
     if (!Self)
         return;
-    DoExpand(Expand);
-    if (!Self || GetExpanded() == Expand)
+    IsUnderWay = false;
+    if (!CanExpand || GetExpanded() == Expand)
         return;
     ChangeState(TKSTNNodeState::nsExpanded, Expand);
     if (FOwner)

@@ -1,5 +1,8 @@
 // Walking through the tree, and places in it.
 
+#include <algorithm>
+#include <cstdlib>
+
 #include "KSTreeView/model/TreeNodes.h"
 
 namespace
@@ -42,6 +45,8 @@ TKSTreeNode* TKSTreeNode::GetPrev() const
 
 bool TKSTreeNode::IsVisible() const
 {
+    if (FOwner && FShownSerial == FOwner->GetShapeSerial())
+        return true;
     // The nearest first: most hidden nodes stand in a collapsed parent.
     for (const TKSTreeNode* Node = FParent; Node; Node = Node->FParent)
         if (!Node->GetExpanded())
@@ -79,17 +84,23 @@ TKSTreeNode* TKSTreeNode::GetPrevVisible() const
 
 TKSTreeNode* TKSTreeNode::GetItem(int Index) const
 {
-    TKSTreeNode* Child = FFirstChild;
-    int Steps = Index;
-    if (FOwner && FOwner->FChildCursorNode && FOwner->FChildCursorNode->FParent == this &&
-        FOwner->FChildCursorIndex <= Index) {
-        Child = FOwner->FChildCursorNode;
-        Steps = Index - FOwner->FChildCursorIndex;
-    }
-    for (; Steps > 0 && Child; --Steps)
-        Child = Child->FNextSibling;
-    if (!Child)
+    if (!FFirstChild || Index >= FChildCount)
         throw EKSTreeViewError("List index out of bounds");
+    TKSTreeNode* Child = FFirstChild;
+    int Steps = std::max(0, Index);
+    const auto Nearer = [&](TKSTreeNode* Node, int At) {
+        if (std::abs(Index - At) >= std::abs(Steps))
+            return;
+        Child = Node;
+        Steps = Index - At;
+    };
+    Nearer(FLastChild, FChildCount - 1);
+    if (FOwner && FOwner->FChildCursorNode && FOwner->FChildCursorNode->FParent == this)
+        Nearer(FOwner->FChildCursorNode, FOwner->FChildCursorIndex);
+    for (; Steps > 0; --Steps)
+        Child = Child->FNextSibling;
+    for (; Steps < 0; ++Steps)
+        Child = Child->FPrevSibling;
     if (FOwner && Index > 0) {
         FOwner->FChildCursorNode = Child;
         FOwner->FChildCursorIndex = Index;
@@ -156,7 +167,7 @@ void TKSTreeNode::MoveTo(TKSTreeNode* Parent)
         throw EKSTreeViewError("A node cannot be moved below itself or into another tree");
     TKSTreeNode* const Left = FParent;
     FOwner->Unlink(this);
-    if (Left && !Left->FFirstChild) {
+    if (Left && Left != Parent && !Left->FFirstChild) {
         Left->FHasChildren = false;
         Left->ChangeState(TKSTNNodeState::nsExpanded, false);
     }

@@ -24,6 +24,12 @@ TKSTreeNodes::~TKSTreeNodes()
 {
     FUpdateCount = 1;
     DeleteAll(true);
+    while (!FFloating.empty()) {
+        TKSTreeNode* const Node = FFloating.back();
+        FFloating.pop_back();
+        Node->FLinked = false;
+        delete Node;
+    }
     for (treeview::TNodeRef* Ref : FRefs) {
         Ref->FNode = nullptr;
         Ref->FNodes = nullptr;
@@ -40,9 +46,24 @@ TKSTreeNode* TKSTreeNodes::LastNode() const
 
 TKSTreeNode* TKSTreeNodes::GetNodeFromIndex(int Index) const
 {
-    if (Index < 0 || Index >= FCount)
+    TKSTreeNode* const Node = Index < 0 ? nullptr : StepTo(Index);
+    if (!Node)
         throw EKSTreeViewError("Invalid Index");
+    RememberIndex(Node, Index);
+    return Node;
+}
+
+/// From the nearest of the first node, the last one and where the look-up before ended. Null behind the end.
+TKSTreeNode* TKSTreeNodes::StepTo(int Index) const
+{
     TKSTreeNode* Node = FFirstNode;
+    if (IsCountMoving()) {
+        for (; Index > 0 && Node; --Index)
+            Node = Node->GetNext();
+        return Node;
+    }
+    if (Index >= FCount)
+        return nullptr;
     int At = 0;
     if (FCursorNode && std::abs(Index - FCursorIndex) < Index) {
         Node = FCursorNode;
@@ -56,14 +77,13 @@ TKSTreeNode* TKSTreeNodes::GetNodeFromIndex(int Index) const
         Node = Node->GetNext();
     for (; At > Index && Node; --At)
         Node = Node->GetPrev();
-    if (!Node)
-        throw EKSTreeViewError("Invalid Index");
-    RememberIndex(Node, Index);
     return Node;
 }
 
 void TKSTreeNodes::RememberIndex(TKSTreeNode* Node, int Index) const
 {
+    if (IsCountMoving())
+        return;
     FCursorNode = Node;
     FCursorIndex = Index;
 }
@@ -114,8 +134,16 @@ void TKSTreeNodes::LinkBefore(TKSTreeNode* Node, TKSTreeNode* Sibling)
     NodeLinked(Node, Parent);
 }
 
+bool TKSTreeNodes::IsChained(const TKSTreeNode& Node) const
+{
+    const TKSTreeNode* const First = Node.FParent ? Node.FParent->FFirstChild : FFirstNode;
+    return Node.FPrevSibling || First == &Node;
+}
+
 void TKSTreeNodes::Unlink(TKSTreeNode* Node)
 {
+    if (!IsChained(*Node))
+        return;
     TKSTreeNode* const Parent = Node->FParent;
     TKSTreeNode*& First = Parent ? Parent->FFirstChild : FFirstNode;
     TKSTreeNode*& Last = Parent ? Parent->FLastChild : FLastNode;
@@ -128,10 +156,7 @@ void TKSTreeNodes::Unlink(TKSTreeNode* Node)
     if (Node->FNextSibling)
         Node->FNextSibling->FPrevSibling = Node->FPrevSibling;
     Node->FPrevSibling = Node->FNextSibling = nullptr;
-    if (Parent)
-        --Parent->FChildCount;
-    else if (Node->FLinked)
-        --FTopCount;
+    --(Parent ? Parent->FChildCount : FTopCount);
     ForgetCursors();
     ShapeChanged();
 }
@@ -152,6 +177,7 @@ void TKSTreeNodes::Uncount(TKSTreeNode* Node)
 void TKSTreeNodes::NodeGone(TKSTreeNode* Node)
 {
     ++FGoneSerial;
+    std::erase(FFloating, Node);
     for (treeview::TNodeRef* Ref : FRefs)
         if (Ref->FNode == Node)
             Ref->FNode = nullptr;
@@ -171,6 +197,36 @@ TKSTreeNode* TKSTreeNodes::NewNode()
     return Node;
 }
 
+/// A new node on its way into the collection. It is counted at the end, also when a handler raised meanwhile,
+/// unless a handler took it away.
+class TKSTreeNodes::TAdding
+{
+public:
+    TAdding(TKSTreeNodes& Nodes, TKSTreeNode* Node) : FNodes(Nodes), FNode(Node), FWitness(Nodes.FLife)
+    {
+        ++FNodes.FAddsUnderWay;
+    }
+    ~TAdding()
+    {
+        if (!FWitness.IsAlive())
+            return;
+        --FNodes.FAddsUnderWay;
+        if (FNode && FNodes.IsChained(*FNode.Get()))
+            FNodes.Count(FNode.Get());
+    }
+    TAdding(const TAdding&) = delete;
+    TAdding& operator=(const TAdding&) = delete;
+
+    /// False: a handler took the node away.
+    bool Stays() const { return static_cast<bool>(FNode); }
+    TKSTreeNode* Get() const { return FNode.Get(); }
+
+private:
+    TKSTreeNodes& FNodes;
+    treeview::TNodeRef FNode;
+    TAliveGuard FWitness;
+};
+
 TKSTreeNode* TKSTreeNodes::InternalAddObject(TKSTreeNode* Parent, const vcl::AnsiString& Text, void* Data,
                                              TKSTNAddMode Mode)
 {
@@ -182,14 +238,11 @@ TKSTreeNode* TKSTreeNodes::InternalAddObject(TKSTreeNode* Parent, const vcl::Ans
         LinkFirst(Node, Parent);
     else
         LinkLast(Node, Parent);
-    const treeview::TNodeRef Added(Node);
-    const vcl::TAliveGuard Witness(FLife);
+    const TAdding Added(*this, Node);
     if (Parent)
         Parent->SetHasChildren(true);
-    if (Added && !IsUpdating() && Node->IsVisible())
+    if (Added.Stays() && FHost && !IsUpdating() && Node->IsVisible())
         RefreshUnlessUpdating();
-    if (Witness.IsAlive() && Added)
-        Count(Node);
     return Added.Get();
 }
 
@@ -240,26 +293,31 @@ TKSTreeNode* TKSTreeNodes::Insert(TKSTreeNode* Sibling, const vcl::AnsiString& T
 
 TKSTreeNode* TKSTreeNodes::InsertObject(TKSTreeNode* Sibling, const vcl::AnsiString& Text, void* Data)
 {
-    TKSTreeNode* const Node = NewNode();
-    const treeview::TNodeRef Added(Node);
+    const treeview::TNodeRef Next(Sibling);
+    const TAdding Added(*this, NewNode());
+    TKSTreeNode* const Node = Added.Get();
     Node->FLinked = true;
     Node->SetData(Data);
-    ++FTopCount;
-    Node->SetText(Text); // drawn although it stands nowhere yet: the one place where adding a node draws it
-    if (!Added)
+    FFloating.push_back(Node);
+    try {
+        Node->SetText(Text); // drawn although it stands nowhere yet: only here does adding a node draw it
+    } catch (...) {
+        if (Added.Stays())
+            Node->Delete();
+        throw;
+    }
+    if (!Added.Stays())
         return nullptr;
-    --FTopCount;
-    if (Sibling && Sibling->FLinked) {
-        Node->FLevel = Sibling->FLevel;
-        LinkBefore(Node, Sibling);
+    std::erase(FFloating, Node);
+    if (Next && Next->FLinked) {
+        Node->FLevel = Next->FLevel;
+        LinkBefore(Node, Next.Get());
     } else {
         Node->FLevel = 0;
         LinkLast(Node, nullptr);
     }
     if (TKSTreeNode* const Parent = Node->FParent)
         Parent->SetHasChildren(true);
-    if (Added)
-        Count(Node);
     return Added.Get();
 }
 
@@ -301,10 +359,14 @@ TKSTreeNode* TKSTreeNodes::FirstStaying() const
     return Node;
 }
 
-void TKSTreeNodes::DeleteAll(bool OwnerGoes)
+void TKSTreeNodes::DeleteStaying(bool OwnerGoes)
 {
-    const vcl::TAliveGuard Witness(FLife);
-    while (TKSTreeNode* const Node = FirstStaying()) {
+    const TAliveGuard Witness(FLife);
+    // Handlers that go on adding nodes do not keep this from ending.
+    for (int Left = FCount + FAddsUnderWay; Left > 0; --Left) {
+        TKSTreeNode* const Node = FirstStaying();
+        if (!Node)
+            return;
         if (OwnerGoes)
             delete Node;
         else
@@ -312,6 +374,21 @@ void TKSTreeNodes::DeleteAll(bool OwnerGoes)
         if (!Witness.IsAlive())
             return;
     }
+}
+
+void TKSTreeNodes::DeleteAll(bool OwnerGoes)
+{
+    const TAliveGuard Witness(FLife);
+    DeleteStaying(OwnerGoes);
+    if (!Witness.IsAlive())
+        return;
+    if (OwnerGoes && FirstStaying()) {
+        FHost = nullptr; // nobody is told of what handlers have added meanwhile
+        while (TKSTreeNode* const Node = FirstStaying())
+            delete Node;
+    }
+    if (FirstStaying())
+        return;
     for (TSubtreeRemoval* Removal : FRemovals)
         Removal->Abandon(OwnerGoes);
     FFirstNode = FLastNode = nullptr;

@@ -62,6 +62,7 @@ public:
 
     /// Null does nothing.
     void Delete(TKSTreeNode* Node);
+    /// Ends also when handlers of the deletions go on adding nodes; some of these stay then.
     void Clear();
 
     /// Nested; between them nothing is drawn and the view is not refreshed. The outermost EndUpdate refreshes
@@ -70,7 +71,8 @@ public:
     void EndUpdate();
     bool IsUpdating() const { return FUpdateCount > 0; }
 
-    /// Copies the nodes of another collection through the binary stream.
+    /// Copies the nodes of another collection through the binary stream. Nothing happens when it is the same
+    /// one.
     void Assign(const vcl::TPersistent* Source) override;
     /// Replaces the nodes. EReadError when the stream is cut short or damaged; nodes read so far stay, the
     /// last one with as much of its record as there was.
@@ -105,6 +107,7 @@ private:
     friend class TKSTreeNode;
     friend class treeview::TNodeRef;
     friend class treeview::TSubtreeRemoval;
+    class TAdding;
 
     TKSTreeNode* NewNode();
     TKSTreeNode* InternalAddObject(TKSTreeNode* Parent, const vcl::AnsiString& Text, void* Data,
@@ -118,6 +121,10 @@ private:
     /// The node is one of Count from now on, or no longer.
     void Count(TKSTreeNode* Node);
     void Uncount(TKSTreeNode* Node);
+    bool IsChained(const TKSTreeNode& Node) const;
+    /// Nodes are about to be counted, or were until now: Count is not the number of those in the chains.
+    bool IsCountMoving() const { return FAddsUnderWay > 0 || !FRemovals.empty(); }
+    TKSTreeNode* StepTo(int Index) const;
     /// No reference may lead to the node any more.
     void NodeGone(TKSTreeNode* Node);
     void ForgetCursors() const;
@@ -132,6 +139,7 @@ private:
     TKSTreeNode* FirstStaying() const;
     /// Deletes all nodes but those being deleted further up the stack, and lets go of these.
     void DeleteAll(bool OwnerGoes);
+    void DeleteStaying(bool OwnerGoes);
     void RefreshUnlessUpdating();
 
     treeview::ITreeHost* FHost;
@@ -140,6 +148,7 @@ private:
     int FCount = 0;
     int FTopCount = 0;
     int FUpdateCount = 0;
+    int FAddsUnderWay = 0; // linked or drawn already, and not counted yet
     std::uint64_t FShapeSerial = 1;
     std::uint64_t FGoneSerial = 0; // counts the nodes that have gone
     bool FHasCustomNodes = false;
@@ -151,5 +160,6 @@ private:
     mutable int FChildCursorIndex = 0;
     std::vector<treeview::TNodeRef*> FRefs;
     std::vector<treeview::TSubtreeRemoval*> FRemovals; // under way, outermost first
+    std::vector<TKSTreeNode*> FFloating;               // made by Insert and in no chain yet
     vcl::TLiveness FLife;
 };

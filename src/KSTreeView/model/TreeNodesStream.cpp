@@ -115,9 +115,6 @@ void TKSTreeNode::WriteData(vcl::TStream& Stream, TKSNodeInfo& Info) const
 void TKSTreeNodes::ReadTopNodes(vcl::TStream& Stream)
 {
     const vcl::TAliveGuard Witness(FLife);
-    Clear();
-    if (!Witness.IsAlive())
-        return;
     const std::uint64_t Gone = FGoneSerial;
     TKSNodeInfo Info;
     // A count that lies meets the end of the stream.
@@ -132,7 +129,11 @@ void TKSTreeNodes::ReadTopNodes(vcl::TStream& Stream)
 
 void TKSTreeNodes::ReadData(vcl::TStream& Stream)
 {
-    treeview::Coalesced(FHost, FLife, treeview::DeletionEvents, [&] { ReadTopNodes(Stream); });
+    const vcl::TAliveGuard Witness(FLife);
+    // The empty chart is shown for a moment: a scrolled view goes back to its start.
+    Clear();
+    if (Witness.IsAlive())
+        treeview::Coalesced(FHost, FLife, {}, [&] { ReadTopNodes(Stream); });
 }
 
 void TKSTreeNodes::WriteData(vcl::TStream& Stream) const
@@ -153,21 +154,16 @@ void TKSTreeNodes::Assign(const vcl::TPersistent* Source)
     if (Nodes == this)
         return;
     const vcl::TAliveGuard Witness(FLife);
-    treeview::Coalesced(FHost, FLife, treeview::DeletionEvents, [&] {
-        vcl::TMemoryStream Stream;
-        Nodes->WriteData(Stream);
-        // The stream holds the low half of a pointer.
-        std::vector<void*> Pointers;
-        for (const TKSTreeNode* Node = Nodes->FFirstNode; Node; Node = Node->GetNext())
-            Pointers.push_back(Node->GetData());
-        Clear();
-        if (!Witness.IsAlive())
-            return;
-        Stream.SetPosition(0);
-        ReadData(Stream);
-        if (Witness.IsAlive())
-            SetPointers(Pointers);
-    });
+    vcl::TMemoryStream Stream;
+    Nodes->WriteData(Stream);
+    // The stream holds the low half of a pointer.
+    std::vector<void*> Pointers;
+    for (const TKSTreeNode* Node = Nodes->FFirstNode; Node; Node = Node->GetNext())
+        Pointers.push_back(Node->GetData());
+    Stream.SetPosition(0);
+    ReadData(Stream);
+    if (Witness.IsAlive())
+        SetPointers(Pointers);
 }
 
 /// In the order of GetNext.

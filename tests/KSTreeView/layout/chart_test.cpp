@@ -1,7 +1,9 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <random>
+#include <set>
 
 #include "KSTreeView/layout/Chart.h"
 #include "KSTreeView/model/FakeTree.h"
@@ -340,6 +342,44 @@ TEST_F(Chart, AnAreaOfALargeChartFindsFewNodes)
     View.Find({0, 0, 1400, 900}, 0, Found);
     EXPECT_GT(Found.size(), 10u);
     EXPECT_LT(Found.size(), 400u);
+}
+
+TEST_F(Chart, AnAreaFindsAllItsNodesWhereOddHalvesHaveAddedUp)
+{
+    // Each rung of a ladder rounds once more: far down, the two ladders lean over each other.
+    Tree.Layout.HorzSpacing = 5;
+    Tree.Items().BeginUpdate();
+    const auto AddPair = [this](TKSTreeNode* Parent) {
+        TKSTreeNode* const Top = Tree.Items().AddChild(Parent, "pair");
+        Tree.Items().AddChild(Top, "leaf");
+        Tree.Items().AddChild(Top, "leaf");
+    };
+    TKSTreeNode* ToTheRight = Tree.Items().Add(nullptr, "R");
+    TKSTreeNode* ToTheLeft = Tree.Items().Add(nullptr, "L");
+    for (int Level = 0; Level < 400; ++Level) {
+        AddPair(ToTheRight);
+        ToTheRight = Tree.Items().AddChild(ToTheRight, "r");
+        TKSTreeNode* const Next = Tree.Items().AddChild(ToTheLeft, "l");
+        AddPair(ToTheLeft);
+        ToTheLeft = Next;
+    }
+    for (TKSTreeNode* Each = Tree.Items().GetFirstNode(); Each; Each = Each->GetNext())
+        Each->Expand(false);
+    Tree.Items().EndUpdate();
+    LayOut({400, 300});
+    const int Bottom = View.GetTotal().Height + 100;
+    const int End = View.GetTotal().Width + 100;
+    std::vector<TKSTreeNode*> Found;
+    for (int X = 0; X < End; X += 31) {
+        const vcl::TRect Area{X, 0, X + 20, Bottom};
+        View.Find(Area, 0, Found);
+        const std::set<TKSTreeNode*> All(Found.begin(), Found.end());
+        for (TKSTreeNode* Each : View.GetShown()) {
+            const vcl::TRect& Box = Each->GetRect();
+            const bool Touches = Box.Left < Area.Right && Box.Right > Area.Left;
+            ASSERT_TRUE(!Touches || All.count(Each) > 0) << X;
+        }
+    }
 }
 
 TEST_F(Chart, AMillionLevelsAndAMillionSiblingsAreLaidOut)

@@ -2,6 +2,7 @@
 
 #include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "KSTreeView/model/NodeSelection.h"
@@ -30,15 +31,13 @@ public:
         if (Coalescing > 0)
             ++Saved;
         else
-            Log.push_back("refresh");
+            ShowRefresh();
     }
     void BeginCoalescing() override { ++Coalescing; }
     void EndCoalescing() override
     {
-        if (--Coalescing == 0 && Saved > 0) {
-            Log.push_back("refresh");
-            Saved = 0;
-        }
+        if (--Coalescing == 0 && std::exchange(Saved, 0) > 0)
+            ShowRefresh();
     }
 
     void NodeDeleting(TKSTreeNode* Node) override
@@ -48,7 +47,12 @@ public:
         if (OnDeletion)
             OnDeletion(Node);
     }
-    void ForgetNode(TKSTreeNode* Node) override { FSelection.Forget(Node); }
+    void ForgetNode(TKSTreeNode* Node) override
+    {
+        FSelection.Forget(Node);
+        if (OnForget)
+            OnForget(Node);
+    }
     TKSTreeNode* SelectedNode() const override { return FSelection.GetSelected(); }
     TKSTreeNode* FocusedNode() const override { return FSelection.GetFocused(); }
     void SelectNode(TKSTreeNode* Node) override { FSelection.Select(Node); }
@@ -134,6 +138,8 @@ public:
     int Saved = 0;
     int Refreshes = 0;
     std::string Parts;
+    std::function<void()> OnRefresh;
+    std::function<void(TKSTreeNode*)> OnForget;
     std::function<void(TKSTreeNode*)> OnDeletion;
     std::function<bool(TKSTreeNode*)> OnChanging;
     std::function<void(TKSTreeNode*)> OnChange;
@@ -143,6 +149,12 @@ public:
     std::vector<std::string> Log;
 
 private:
+    void ShowRefresh()
+    {
+        Log.push_back("refresh");
+        if (OnRefresh)
+            OnRefresh();
+    }
     bool Ask(const std::string& What, TKSTreeNode* Node)
     {
         Log.push_back(What + Node->GetText());

@@ -185,7 +185,7 @@ TEST(Stream, NegativeCountsAreNone)
     EXPECT_EQ(Nodes.GetCount(), 1);
 }
 
-TEST(Stream, ReadingRefreshesOnceForAll)
+TEST(Stream, ReadingRefreshesTheEmptiedTreeAndThenOnceForAll)
 {
     TFakeTree Tree;
     Tree.Fill({"A", " A1", "B"});
@@ -193,7 +193,11 @@ TEST(Stream, ReadingRefreshesOnceForAll)
     Tree.Items().WriteData(Stream);
     Tree.Log.clear();
     Read(Tree.Items(), Stream);
-    EXPECT_EQ(std::count(Tree.Log.begin(), Tree.Log.end(), "refresh"), 1);
+    EXPECT_EQ(std::count(Tree.Log.begin(), Tree.Log.end(), "refresh"), 2);
+    Tree.Log.clear();
+    Tree.Assigned = {treeview::TTreeEvent::Change, treeview::TTreeEvent::Deletion};
+    Read(Tree.Items(), Stream);
+    EXPECT_EQ(std::count(Tree.Log.begin(), Tree.Log.end(), "refresh"), 2) << "reading raises neither";
     Tree.Log.clear();
     Tree.Assigned = {treeview::TTreeEvent::GetImageIndex};
     Read(Tree.Items(), Stream);

@@ -218,7 +218,7 @@ TEST(TreeStrings, TheEndOfAnUpdateRefreshes)
 
 TEST(TreeStrings, AHundredThousandIndexesInTurnAreQuick)
 {
-    // Quadratic time would be hours.
+    // Quadratic time would be minutes.
     constexpr int Count = 100'000;
     TFakeTree Tree;
     TKSTreeStrings Strings(&Tree.Items());
