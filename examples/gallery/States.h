@@ -11,8 +11,8 @@ namespace gallery
 
 /// What a state's functions work on.
 struct TScene {
-    vcl::TWinControl& Control;     // new, of the state's class, on the window
-    vcl::TCustomImageList& Images; // small pictures, see MakeIcons
+    vcl::TWinControl& Control; // new, of the state's class, on the window
+    vcl::TImageList& Images;   // small pictures, see MakeIcons
 };
 
 using TSceneStep = void (*)(TScene& Scene);

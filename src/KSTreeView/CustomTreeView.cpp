@@ -69,6 +69,7 @@ void TCustomKSTreeView::SetBorderStyle(vcl::TBorderStyle Value)
         return;
     FBorderStyle = Value;
     RecreateWnd();
+    Refresh();
 }
 
 void TCustomKSTreeView::SetButtonSize(int Value)
@@ -76,7 +77,7 @@ void TCustomKSTreeView::SetButtonSize(int Value)
     Change(FMetrics.ButtonSize, std::clamp(Value, MinButtonSize, MaxButtonSize));
 }
 
-void TCustomKSTreeView::SetImages(vcl::TCustomImageList* Value)
+void TCustomKSTreeView::SetImages(vcl::TImageList* Value)
 {
     if (FImages == Value)
         return;
@@ -88,10 +89,15 @@ void TCustomKSTreeView::SetImages(vcl::TCustomImageList* Value)
 void TCustomKSTreeView::Notification(vcl::TComponent* Component, vcl::TOperation Operation)
 {
     TCustomControl::Notification(Component, Operation);
-    if (Operation != vcl::TOperation::opRemove || Component != FImages)
+    if (Operation != vcl::TOperation::opRemove)
         return;
-    FImages = nullptr;
-    Invalidate();
+    if (Component == FEditor) {
+        FEditor = nullptr;
+        FSelection.SetEdited(nullptr);
+    } else if (Component == FImages) {
+        FImages = nullptr;
+        Invalidate();
+    }
 }
 
 void TCustomKSTreeView::CreateParams(vcl::TCreateParams& Params)
@@ -108,6 +114,7 @@ void TCustomKSTreeView::CreateParams(vcl::TCreateParams& Params)
 void TCustomKSTreeView::DestroyWnd()
 {
     // Timers end with the window.
+    FEditTimerRuns = false;
     FEditPending = false;
     FPanning = false;
     TCustomControl::DestroyWnd();
@@ -173,15 +180,49 @@ void TCustomKSTreeView::FullCollapse()
     });
 }
 
+void TCustomKSTreeView::CheckOwn(const TKSTreeNode* Node) const
+{
+    if (Node && (Node->GetNodes() != FItems || !Node->GetLinked()))
+        throw EKSTreeViewError("The node does not stand in this chart");
+}
+
+void TCustomKSTreeView::SelectNode(TKSTreeNode* Node)
+{
+    CheckOwn(Node);
+    FSelection.Select(Node);
+}
+
+void TCustomKSTreeView::FocusNode(TKSTreeNode* Node)
+{
+    CheckOwn(Node);
+    FSelection.Focus(Node);
+}
+
+TKSTVHitTests TCustomKSTreeView::InternalGetHitTestInfoAt(int X, int Y, TKSTreeNode*& Node) const
+{
+    const treeview::TChartHit Hit = HitTest({X, Y});
+    Node = Hit.Node;
+    return Hit.Tests;
+}
+
 void TCustomKSTreeView::ScrollInView(TKSTreeNode* Node)
 {
-    if (!Node || !GetParent() || FItems->IsUpdating() || !Node->IsVisible())
+    const TAliveGuard Guard(*this);
+    const treeview::TNodeRef Wanted(Node);
+    // What is put off until the end of many changes is needed now: the boxes' places.
+    if (FRefreshDue && FCoalescing > 0 && !Is(vcl::TComponentState::csDestroying)) {
+        FRefreshDue = false;
+        Refresh();
+    }
+    if (!Guard.IsAlive() || !Wanted || !GetParent() || FItems->IsUpdating() || !Node->IsVisible())
         return;
     const vcl::TRect& Box = Node->GetRect();
-    const int DeltaX = treeview::ScrollDelta(Box.Left - FMetrics.HorzSpacing,
-                                             Box.Right + FMetrics.HorzSpacing, GetClientWidth());
-    const int DeltaY = treeview::ScrollDelta(Box.Top - FMetrics.VertSpacing,
-                                             Box.Bottom + FMetrics.VertSpacing, GetClientHeight());
+    const auto Delta = [](int From, int To, int Spacing, int Room) {
+        return treeview::ScrollDelta(vcl::SaturateToInt(std::int64_t{From} - Spacing),
+                                     vcl::SaturateToInt(std::int64_t{To} + Spacing), Room);
+    };
+    const int DeltaX = Delta(Box.Left, Box.Right, FMetrics.HorzSpacing, GetClientWidth());
+    const int DeltaY = Delta(Box.Top, Box.Bottom, FMetrics.VertSpacing, GetClientHeight());
     FHorzScrollBar->ScrollBy(DeltaX);
     FVertScrollBar->ScrollBy(DeltaY);
 }
@@ -212,21 +253,18 @@ void TCustomKSTreeView::UpdateScrollBars()
 {
     if (FScrollUpdating)
         return;
-    FScrollUpdating = true;
+    const vcl::TFlagScope Updating(*this, FScrollUpdating);
     const TAliveGuard Guard(*this);
-    const auto Update = [&](TKSTVScrollBar& Bar, bool ControlSB, bool AssumeSB) {
-        if (Guard.IsAlive())
-            Bar.Update(ControlSB, AssumeSB);
-    };
+    // A bar that comes or goes resizes the view, and who hears of that may free it.
     if (FVertScrollBar->NeedsScrollBarVisible()) {
-        Update(*FHorzScrollBar, false, true);
-        Update(*FVertScrollBar, true, false);
+        FHorzScrollBar->Update(false, true);
+        if (Guard.IsAlive())
+            FVertScrollBar->Update(true, false);
     } else {
-        Update(*FVertScrollBar, false, FHorzScrollBar->NeedsScrollBarVisible());
-        Update(*FHorzScrollBar, true, false);
+        FVertScrollBar->Update(false, FHorzScrollBar->NeedsScrollBarVisible());
+        if (Guard.IsAlive())
+            FHorzScrollBar->Update(true, false);
     }
-    if (Guard.IsAlive())
-        FScrollUpdating = false;
 }
 
 void TCustomKSTreeView::ContentsMoved(int DeltaX, int DeltaY)

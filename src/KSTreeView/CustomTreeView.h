@@ -18,7 +18,7 @@ namespace vcl
 {
 
 class TChangeLink;
-class TCustomImageList;
+class TImageList;
 
 } // namespace vcl
 
@@ -99,8 +99,8 @@ public:
     TKSTreeNodes* GetItems() const { return FItems; }
     void SetItems(const TKSTreeNodes* Value) { FItems->Assign(Value); }
     /// Not owned. Its changes repaint the view.
-    vcl::TCustomImageList* GetImages() const { return FImages; }
-    void SetImages(vcl::TCustomImageList* Value);
+    vcl::TImageList* GetImages() const { return FImages; }
+    void SetImages(vcl::TImageList* Value);
     TKSTVScrollBar* GetHorzScrollBar() const { return FHorzScrollBar.get(); }
     TKSTVScrollBar* GetVertScrollBar() const { return FVertScrollBar.get(); }
 
@@ -109,9 +109,10 @@ public:
     void SetSelected(TKSTreeNode* Value) { SelectNode(Value); }
     TKSTreeNode* GetFocusedNode() const { return FSelection.GetFocused(); }
     /// Asks OnChanging with the node selected so far, tells OnChange with the new one, and scrolls to it.
-    /// Null deselects, without OnChange.
-    void SelectNode(TKSTreeNode* Node) { FSelection.Select(Node); }
-    void FocusNode(TKSTreeNode* Node) { FSelection.Focus(Node); }
+    /// Null deselects, without OnChange. EKSTreeViewError for a node that stands in no chart or in another
+    /// one; so with FocusNode and EditNode.
+    void SelectNode(TKSTreeNode* Node);
+    void FocusNode(TKSTreeNode* Node);
     void FullExpand();
     void FullCollapse();
     /// Scrolls so that the node's box and the spacing around it are seen.
@@ -123,6 +124,8 @@ public:
     TKSTreeNode* GetEditingNode() const { return FSelection.GetEdited(); }
     /// A click has started the wait before editing.
     bool IsEditPending() const { return FEditPending; }
+    /// A node is expanding or collapsing; true inside its events.
+    bool IsExpanding() const { return FExpanding; }
     /// Opens the editor over the node unless OnEditing objects; accepts what another one holds.
     void EditNode(TKSTreeNode* Node);
     /// Closes the editor. Accept: OnEdited, then the text goes to the node.
@@ -155,6 +158,8 @@ public:
     TKSTreeNode* GetNodeAt(int X, int Y) const { return treeview::NodeAt(*FItems, {X, Y}); }
     /// htOnButton, htOnItem, or nothing.
     TKSTVHitTests GetHitTestInfoAt(int X, int Y) const { return HitTest({X, Y}).Tests; }
+    /// The same with the visible node that is there; null for nothing.
+    TKSTVHitTests InternalGetHitTestInfoAt(int X, int Y, TKSTreeNode*& Node) const;
 
     // Printing
     /// Draws the chart into Area of any canvas: in the middle when it and its spacing fit, else as Mode says.
@@ -207,6 +212,7 @@ protected:
     void Notification(vcl::TComponent* Component, vcl::TOperation Operation) override;
 
     void KeyPress(char32_t& Key) override;
+    void BeginAutoDrag() override;
     void MouseMove(vcl::TShiftState Shift, int X, int Y) override;
     void MouseUp(vcl::TMouseButton Button, vcl::TShiftState Shift, int X, int Y) override;
     bool DoMouseWheel(vcl::TShiftState Shift, int WheelDelta, vcl::TPoint MousePos) override;
@@ -225,6 +231,9 @@ private:
     friend class TKSTVEdit;
     friend class TKSTVScrollBar;
     class THost;
+    /// The editor has lost the focus: see whether it stays so.
+    static constexpr unsigned WM_EDITORLEFT = vcl::WM_USER + 1;
+    class THandling;
     class TPrinting;
 
     template <class T>
@@ -245,7 +254,9 @@ private:
     bool WantsEveryNode() const;
     int ImageMargin() const;
     void PrintOn(vcl::TCanvas& Canvas, vcl::TSize Paper, vcl::TPoint Corner);
+    vcl::TSize PagesFor(vcl::TSize Page);
     int PrintScaled(vcl::TCanvas& Canvas, const vcl::TRect& Area);
+    void PrintSmaller(vcl::TCanvas& Canvas, const vcl::TRect& Area, double Factor);
     int PrintPages(vcl::TCanvas& Canvas, const vcl::TRect& Area, int Page);
 
     void Walk(std::uint16_t Key);
@@ -253,7 +264,12 @@ private:
     bool ExtraChar(char32_t Key);
     void FindTyped(char32_t Key);
     void FocusAndSelect(TKSTreeNode* Node);
+    void StartEditTimer();
     void StopEditTimer();
+    void TakeFocusFromEditor();
+    void EndEditing();
+    void WMEditorLeft();
+    void CheckOwn(const TKSTreeNode* Node) const;
     void StartPanning(vcl::TPoint Point);
     void TakeEditedText();
     /// The editor's window lost the focus: it closes unless it gets it back at once.
@@ -273,7 +289,7 @@ private:
     std::unique_ptr<TKSTVScrollBar> FHorzScrollBar;
     std::unique_ptr<TKSTVScrollBar> FVertScrollBar;
     std::unique_ptr<vcl::TChangeLink> FImagesLink;
-    vcl::TCustomImageList* FImages = nullptr;
+    vcl::TImageList* FImages = nullptr;
     TKSTVEdit* FEditor = nullptr;
     vcl::TCanvas* FPrintCanvas = nullptr;
     vcl::TSize FPaper;
@@ -281,18 +297,22 @@ private:
     treeview::TTypeAhead FTypeAhead;
     vcl::TPoint FPanStart;
     vcl::TPoint FPanPosition;
-    int FWheelRest = 0;
+    std::int64_t FWheelRest = 0;
+    vcl::TScrollBarKind FWheelBar = vcl::TScrollBarKind::sbVertical;
+    vcl::TMessage* FMessage = nullptr; // being handled
     int FCoalescing = 0;
     vcl::TBorderStyle FBorderStyle = vcl::TBorderStyle::bsSingle;
     bool FDefaultDrawing = true;
     bool FReadOnly = false;
     bool FRefreshDue = false;
     bool FEditPending = false;
+    bool FEditTimerRuns = false;
     bool FFocusClick = false;
     bool FExpanding = false;
     bool FScrollUpdating = false;
-    bool FFocusingEditor = false;
     bool FClosingEditor = false;
     bool FPanning = false;
     bool FPrinting = false;
+    bool FPaperIsNext = false;      // Paint is called for the paper
+    bool FPaintsAfterPrint = false; // the window's painting was put off
 };

@@ -54,11 +54,11 @@ void TKSTVScrollBar::Update(bool ControlSB, bool AssumeSB)
     const int Size = ControlSize(ControlSB, AssumeSB);
     FMaxPosition = FVisible ? std::max(0, FRange - Size) : 0;
     vcl::TScrollInfo Info;
+    // Without the flag that only disables it, a bar with nothing to scroll goes.
     Info.Mask = vcl::SIF_ALL;
     Info.Max = FMaxPosition < 1 ? 0 : FRange;
     Info.Page = static_cast<unsigned>(std::max(0, Size + 1));
     Info.Pos = FPosition;
-    Info.TrackPos = FPosition;
     const vcl::TAliveGuard Guard(*FControl);
     FControl->SetScrollInfo(FKind, Info);
     if (Guard.IsAlive())
@@ -103,7 +103,7 @@ void TKSTVScrollBar::ScrollMessage(const vcl::TMessage& Message)
 {
     switch (vcl::ScrollRequest(Message.WParam)) {
     case vcl::SB_LINEUP:
-        return ScrollBy(-FIncrement);
+        return ScrollBy(vcl::SaturateToInt(-std::int64_t{FIncrement}));
     case vcl::SB_LINEDOWN:
         return ScrollBy(FIncrement);
     case vcl::SB_PAGEUP:
@@ -132,7 +132,10 @@ void TKSTVScrollBar::Assign(const vcl::TPersistent* Source)
         TPersistent::Assign(Source);
         return;
     }
+    const vcl::TAliveGuard Guard(*FControl);
+    FIncrement = Bar->FIncrement;
+    const int Position = Bar->FPosition;
     SetVisible(Bar->FVisible);
-    SetPosition(Bar->FPosition);
-    SetIncrement(Bar->FIncrement);
+    if (Guard.IsAlive())
+        SetPosition(Position);
 }

@@ -44,13 +44,19 @@ void TCustomKSTreeView::THost::EndCoalescing()
 
 void TCustomKSTreeView::THost::ForgetNode(TKSTreeNode* Node)
 {
+    const vcl::TAliveGuard Guard(FView);
+    std::exception_ptr Failure;
     if (FView.GetEditingNode() == Node) {
-        const vcl::TAliveGuard Guard(FView);
-        FView.HideNodeEditor(false);
-        if (!Guard.IsAlive())
-            return;
+        try {
+            FView.HideNodeEditor(false);
+        } catch (...) {
+            Failure = std::current_exception();
+        }
     }
-    FView.FSelection.Forget(Node);
+    if (Guard.IsAlive())
+        FView.FSelection.Forget(Node);
+    if (Failure)
+        std::rethrow_exception(Failure);
 }
 
 void TCustomKSTreeView::THost::CalcNodeRects(TKSTreeNode& Node, int X)

@@ -1,4 +1,6 @@
-// Mouse, keyboard, timers, scrolling and the editor.
+// Mouse and scrolling.
+
+#include <utility>
 
 #include "KSTreeView/CustomTreeView.h"
 #include "KSTreeView/TreeEdit.h"
@@ -13,24 +15,44 @@ using vcl::TAliveGuard;
 namespace
 {
 
-constexpr std::uint64_t EditTimer = 1;
-/// Milliseconds from the click on the selected node to the editor.
-constexpr unsigned EditDelay = 500;
-/// The editor has lost the focus: see whether it stays so.
-constexpr unsigned WM_EDITORLEFT = vcl::WM_USER + 1;
 /// A notch of the wheel moves so many times a bar's Increment.
 constexpr int WheelIncrements = 5;
 
 } // namespace
 
+/// The message that is being handled, until the end of the block.
+class TCustomKSTreeView::THandling
+{
+public:
+    THandling(TCustomKSTreeView& View, vcl::TMessage& Message)
+        : FView(View), FGuard(View), FBefore(std::exchange(View.FMessage, &Message))
+    {
+    }
+    ~THandling()
+    {
+        if (FGuard.IsAlive())
+            FView.FMessage = FBefore;
+    }
+    THandling(const THandling&) = delete;
+    THandling& operator=(const THandling&) = delete;
+
+private:
+    TCustomKSTreeView& FView;
+    TAliveGuard FGuard;
+    vcl::TMessage* FBefore;
+};
+
 void TCustomKSTreeView::WndProc(vcl::TMessage& Message)
 {
-    // With automatic drag a press still is a press: the drag begins behind it.
-    const bool IsPress = Message.Msg == vcl::WM_LBUTTONDOWN || Message.Msg == vcl::WM_LBUTTONDBLCLK;
-    if (IsPress && GetDragMode() == vcl::TDragMode::dmAutomatic && !Is(vcl::TComponentState::csDesigning))
-        Dispatch(Message);
-    else
-        TCustomControl::WndProc(Message);
+    const THandling Handling(*this, Message);
+    TCustomControl::WndProc(Message);
+}
+
+/// With automatic drag a press still is a press: the drag begins behind it.
+void TCustomKSTreeView::BeginAutoDrag()
+{
+    if (FMessage)
+        Dispatch(*FMessage);
 }
 
 void TCustomKSTreeView::Dispatch(vcl::TMessage& Message)
@@ -43,9 +65,7 @@ void TCustomKSTreeView::Dispatch(vcl::TMessage& Message)
     case vcl::WM_MOUSEHWHEEL:
         return WMMouseHWheel(Message);
     case WM_EDITORLEFT:
-        if (FEditor && !FEditor->Focused())
-            HideNodeEditor(true);
-        return;
+        return WMEditorLeft();
     default:
         TCustomControl::Dispatch(Message);
     }
@@ -63,12 +83,6 @@ void TCustomKSTreeView::FocusAndSelect(TKSTreeNode* Node)
     FocusNode(Node);
     if (Guard.IsAlive() && Hit)
         SelectNode(Node);
-}
-
-void TCustomKSTreeView::StopEditTimer()
-{
-    KillTimer(EditTimer);
-    FEditPending = false;
 }
 
 namespace
@@ -95,8 +109,8 @@ void TCustomKSTreeView::WMLButtonDown(vcl::TMessage& Message)
     const treeview::TChartHit Hit = FEditor ? treeview::TChartHit() : HitTest(Point);
     const treeview::TNodeRef Node(Hit.Node);
     const treeview::TPressSteps Steps = treeview::StepsOfPress(
-        {TargetOf(Hit), Hit.Node && Hit.Node == GetSelected(), FEditor != nullptr, FEditPending, FFocusClick,
-         FReadOnly, GetDragMode() == vcl::TDragMode::dmAutomatic});
+        {TargetOf(Hit), Hit.Node && Hit.Node == GetSelected(), FEditor != nullptr, FEditTimerRuns,
+         FFocusClick, FReadOnly, GetDragMode() == vcl::TDragMode::dmAutomatic});
     if (Steps.ForgetFocusClick)
         FFocusClick = false;
     if (Steps.CloseEditor)
@@ -105,10 +119,8 @@ void TCustomKSTreeView::WMLButtonDown(vcl::TMessage& Message)
         return Hit.Node->SetExpanded(!Hit.Node->GetExpanded());
     if (Steps.StopEditTimer)
         StopEditTimer();
-    if (Steps.StartEditTimer) {
-        SetTimer(EditTimer, EditDelay);
-        FEditPending = true;
-    }
+    if (Steps.StartEditTimer)
+        StartEditTimer();
     if (Steps.StartPanning)
         StartPanning(Point);
     if (Steps.Select)
@@ -127,7 +139,7 @@ void TCustomKSTreeView::WMLButtonDblClk(vcl::TMessage& Message)
     const treeview::TNodeRef Node(Hit.Node);
     TPress Press;
     Press.Target = TargetOf(Hit);
-    Press.IsEditPending = FEditPending;
+    Press.IsEditPending = FEditTimerRuns;
     const treeview::TDoubleClickSteps Steps =
         treeview::StepsOfDoubleClick(Press, Hit.Node && Hit.Node->GetHasChildren());
     if (Steps.StopEditTimer)
@@ -175,11 +187,18 @@ bool TCustomKSTreeView::ScrollByWheel(TKSTVScrollBar& Bar, int WheelDelta)
 {
     if (Bar.GetMaxPosition() == 0)
         return false;
+    const TAliveGuard Guard(*this);
     HideNodeEditor(true);
-    FWheelRest += WheelDelta * Bar.GetIncrement() * WheelIncrements;
-    const int Distance = FWheelRest / vcl::WHEEL_DELTA;
+    if (!Guard.IsAlive())
+        return true;
+    // What is left of a turn counts for the bar and the direction it was meant for.
+    if (FWheelBar != Bar.GetKind() || (FWheelRest > 0) != (WheelDelta > 0))
+        FWheelRest = 0;
+    FWheelBar = Bar.GetKind();
+    FWheelRest += std::int64_t{WheelDelta} * Bar.GetIncrement() * WheelIncrements;
+    const std::int64_t Distance = FWheelRest / vcl::WHEEL_DELTA;
     FWheelRest -= Distance * vcl::WHEEL_DELTA;
-    Bar.ScrollBy(-Distance);
+    Bar.ScrollBy(vcl::SaturateToInt(-Distance));
     return true;
 }
 
@@ -200,19 +219,6 @@ void TCustomKSTreeView::WMMouseHWheel(vcl::TMessage& Message)
         Message.Result = 1;
     else
         TCustomControl::Dispatch(Message);
-}
-
-void TCustomKSTreeView::WMTimer(vcl::TMessage& Message)
-{
-    if (Message.WParam != EditTimer) {
-        TCustomControl::WMTimer(Message);
-        return;
-    }
-    FEditPending = false;
-    if (!Focused())
-        return; // the timer goes on until the view has the focus again
-    KillTimer(EditTimer);
-    EditNode(GetSelected());
 }
 
 void TCustomKSTreeView::WMSize(vcl::TMessage& Message)
@@ -239,108 +245,7 @@ void TCustomKSTreeView::WMVScroll(vcl::TMessage& Message)
         FVertScrollBar->ScrollMessage(Message);
 }
 
-void TCustomKSTreeView::RedrawSelected()
-{
-    if (TKSTreeNode* const Node = GetSelected())
-        Node->Draw();
-}
-
-void TCustomKSTreeView::WMSetFocus(vcl::TMessage& Message)
-{
-    const TAliveGuard Guard(*this);
-    TCustomControl::WMSetFocus(Message);
-    if (!Guard.IsAlive())
-        return;
-    FFocusClick = FEditor == nullptr;
-    RedrawSelected();
-}
-
-void TCustomKSTreeView::WMKillFocus(vcl::TMessage& Message)
-{
-    const TAliveGuard Guard(*this);
-    TCustomControl::WMKillFocus(Message);
-    if (Guard.IsAlive() && FEditor && !FFocusingEditor)
-        HideNodeEditor(true);
-    if (Guard.IsAlive())
-        RedrawSelected();
-}
-
-void TCustomKSTreeView::EditorLostFocus()
-{
-    if (FEditor && !FClosingEditor && HandleAllocated())
-        PostMessage(WM_EDITORLEFT);
-}
-
 void TCustomKSTreeView::WMGetDlgCode(vcl::TMessage& Message)
 {
     Message.Result = vcl::DLGC_WANTARROWS | vcl::DLGC_WANTCHARS;
-}
-
-void TCustomKSTreeView::EditNode(TKSTreeNode* Node)
-{
-    const TAliveGuard Guard(*this);
-    const treeview::TNodeRef Edited(Node);
-    HideNodeEditor(true);
-    if (!Guard.IsAlive() || !Edited || FEditor || !HandleAllocated())
-        return;
-    if (!CanEdit(Node) || !Guard.IsAlive() || !Edited || FEditor)
-        return;
-    FSelection.SetEdited(Node);
-    FEditor = vcl::New<TKSTVEdit>(this);
-    FEditor->SetFont(GetFont());
-    FEditor->SetBoundsRect(Node->DisplayRect(true));
-    FEditor->SetParent(this);
-    FEditor->Changed();
-    FEditor->SetText(Node->GetText());
-    FEditor->Show();
-    FFocusingEditor = true;
-    const vcl::TWeak<TKSTVEdit> Editor(FEditor);
-    FEditor->SetFocus();
-    if (!Guard.IsAlive())
-        return;
-    FFocusingEditor = false;
-    if (Editor.Get())
-        FEditor->SelectAll();
-}
-
-void TCustomKSTreeView::TakeEditedText()
-{
-    const TAliveGuard Guard(*this);
-    const treeview::TNodeRef Node(GetEditingNode());
-    vcl::AnsiString Text = FEditor->GetText();
-    OnEdited(this, Node.Get(), Text);
-    if (Guard.IsAlive() && Node)
-        Node->SetText(Text);
-}
-
-void TCustomKSTreeView::HideNodeEditor(bool Accept)
-{
-    if (!FEditor || FClosingEditor)
-        return;
-    FClosingEditor = true;
-    const TAliveGuard Guard(*this);
-    const treeview::TNodeRef Node(GetEditingNode());
-    std::exception_ptr Failure;
-    try {
-        if (Accept)
-            TakeEditedText();
-        // The keyboard stays in the chart.
-        if (Guard.IsAlive() && FEditor->Focused() && CanFocus() && !Is(vcl::TComponentState::csDestroying))
-            SetFocus();
-    } catch (...) {
-        Failure = std::current_exception();
-    }
-    if (Guard.IsAlive()) {
-        TKSTVEdit* const Editor = FEditor;
-        FEditor = nullptr;
-        delete Editor;
-    }
-    if (Guard.IsAlive()) {
-        FClosingEditor = false;
-        FSelection.SetEdited(nullptr);
-        if (Node)
-            Node->Draw();
-    }
-    if (Failure)
-        std::rethrow_exception(Failure);
 }

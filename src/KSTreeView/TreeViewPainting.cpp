@@ -1,6 +1,7 @@
 // Painting: a layout phase that moves the scroll bars' ranges, then the drawing.
 
 #include <algorithm>
+#include <utility>
 
 #include "KSTreeView/CustomTreeView.h"
 #include "KSTreeView/TreeEdit.h"
@@ -19,10 +20,10 @@ void TCustomKSTreeView::CalcSubTreesPos()
     }
     const TAliveGuard Guard(*this);
     const vcl::TSize Total = FChart.GetTotal();
-    FHorzScrollBar->SetRange(vcl::SaturateToInt(2 * std::int64_t{FMetrics.HorzSpacing} + Total.Width));
+    FHorzScrollBar->SetRange(vcl::SaturateToInt(treeview::NeededRoom(Total.Width, FMetrics.HorzSpacing)));
     if (!Guard.IsAlive())
         return;
-    FVertScrollBar->SetRange(vcl::SaturateToInt(2 * std::int64_t{FMetrics.VertSpacing} + Total.Height));
+    FVertScrollBar->SetRange(vcl::SaturateToInt(treeview::NeededRoom(Total.Height, FMetrics.VertSpacing)));
     if (!Guard.IsAlive())
         return;
     FChart.SetOrigin(FChart.OriginFor({GetClientWidth(), GetClientHeight(), FHorzScrollBar->GetPosition(),
@@ -38,8 +39,9 @@ void TCustomKSTreeView::CalcDisplayRect()
 treeview::TTreeState TCustomKSTreeView::State() const
 {
     treeview::TTreeState Now;
-    // Paper shows no focus.
+    // Paper shows no focus and no editor.
     Now.HasFocus = !FPrinting && Focused();
+    Now.IsPaper = FPrinting;
     Now.IsEnabled = GetEnabled();
     Now.Edited = FPrinting ? nullptr : GetEditingNode();
     Now.Font = GetFont();
@@ -59,11 +61,18 @@ int TCustomKSTreeView::ImageMargin() const
 
 void TCustomKSTreeView::Paint()
 {
+    if (FPrinting && !std::exchange(FPaperIsNext, false)) {
+        // The places are the paper's now.
+        FPaintsAfterPrint = true;
+        return;
+    }
     const TAliveGuard Guard(*this);
     CalcSubTreesPos();
     if (!Guard.IsAlive())
         return;
     CalcDisplayRect();
+    if (FEditor && !FPrinting)
+        FEditor->Changed(); // stays over its node
     if (WantsEveryNode())
         DrawAllNodes();
     else
@@ -79,15 +88,18 @@ void TCustomKSTreeView::DrawAllNodes()
     const std::uint64_t Shape = FItems->GetShapeSerial();
     std::size_t Next = 0;
     treeview::TNodeRef Node(FItems->GetFirstNode());
+    treeview::TNodeRef After(nullptr);
     while (Node) {
-        Node->Draw();
-        if (!Guard.IsAlive() || !Node)
-            return;
         const std::vector<TKSTreeNode*>& Shown = FChart.GetShown();
-        if (FItems->GetShapeSerial() != Shape)
-            Node.Reset(Node->GetNextVisible());
-        else
-            Node.Reset(++Next < Shown.size() ? Shown[Next] : nullptr);
+        const bool IsUnchanged = FItems->GetShapeSerial() == Shape;
+        ++Next;
+        After.Reset(!IsUnchanged ? Node->GetNextVisible() : Next < Shown.size() ? Shown[Next] : nullptr);
+        Node->Draw();
+        if (!Guard.IsAlive())
+            return;
+        // What a handler has put behind the node is drawn too; when it took the node away, what follows is.
+        const bool HasChanged = FItems->GetShapeSerial() != Shape;
+        Node.Reset(Node && HasChanged ? Node->GetNextVisible() : After.Get());
     }
 }
 
@@ -110,6 +122,7 @@ public:
         FCanvas = View.FPrintCanvas;
         FPaper = View.FPaper;
         View.FPrinting = true;
+        View.FPaperIsNext = true;
         View.FPrintCanvas = Canvas;
         View.FPaper = Paper;
     }
@@ -118,10 +131,13 @@ public:
         if (!FGuard.IsAlive())
             return;
         FView.FPrinting = FWasPrinting;
+        FView.FPaperIsNext = false;
         FView.FPrintCanvas = FCanvas;
         FView.FPaper = FPaper;
         FView.FChart.Arrange(*FView.FItems, FView.FMetrics);
         FView.FChart.Place(FOrigin);
+        if (!FWasPrinting && std::exchange(FView.FPaintsAfterPrint, false))
+            FView.Invalidate();
     }
     TPrinting(const TPrinting&) = delete;
     TPrinting& operator=(const TPrinting&) = delete;
@@ -148,39 +164,79 @@ int TCustomKSTreeView::GetPrintPageCount(vcl::TSize Area)
 {
     if (Area.Width <= 0 || Area.Height <= 0)
         return 0;
+    const vcl::TSize Pages = PagesFor(Area);
+    return vcl::SaturateToInt(std::int64_t{Pages.Width} * Pages.Height);
+}
+
+/// How many pages of a size stand side by side and below each other.
+vcl::TSize TCustomKSTreeView::PagesFor(vcl::TSize Page)
+{
     FChart.Arrange(*FItems, FMetrics);
-    const auto Pages = [](int Total, int Spacing, int Room) {
-        const bool Fits = 2 * std::int64_t{Spacing} + Total <= Room;
-        return Fits ? 1 : std::max(1, (Total + Room - 1) / Room);
+    const auto Along = [](int Total, int Spacing, int Room) {
+        if (treeview::NeededRoom(Total, Spacing) <= Room)
+            return 1;
+        return static_cast<int>(std::max<std::int64_t>(1, (std::int64_t{Total} + Room - 1) / Room));
     };
     const vcl::TSize Total = FChart.GetTotal();
-    return Pages(Total.Width, FMetrics.HorzSpacing, Area.Width) *
-           Pages(Total.Height, FMetrics.VertSpacing, Area.Height);
+    return {Along(Total.Width, FMetrics.HorzSpacing, Page.Width),
+            Along(Total.Height, FMetrics.VertSpacing, Page.Height)};
 }
 
 int TCustomKSTreeView::PrintScaled(vcl::TCanvas& Canvas, const vcl::TRect& Area)
 {
     FChart.Arrange(*FItems, FMetrics);
     const vcl::TSize Total = FChart.GetTotal();
-    const double Factor = std::min({1.0, Area.Width() / (2.0 * FMetrics.HorzSpacing + Total.Width),
-                                    Area.Height() / (2.0 * FMetrics.VertSpacing + Total.Height)});
+    const auto FactorAlong = [](int Room, std::int64_t Needed) {
+        return Needed <= Room ? 1.0 : static_cast<double>(Room) / static_cast<double>(Needed);
+    };
+    const double Factor =
+        std::min(FactorAlong(Area.Width(), treeview::NeededRoom(Total.Width, FMetrics.HorzSpacing)),
+                 FactorAlong(Area.Height(), treeview::NeededRoom(Total.Height, FMetrics.VertSpacing)));
     const vcl::TCanvasStateGuard Saved(Canvas);
     Canvas.IntersectClipRect(Area);
     if (Factor >= 1.0) {
         PrintOn(Canvas, {Area.Width(), Area.Height()}, {Area.Left, Area.Top});
         return 1;
     }
-    Canvas.GetClipRect(); // attaches a canvas that has not drawn yet
+    PrintSmaller(Canvas, Area, Factor);
+    return 1;
+}
+
+namespace
+{
+
+/// Gives the painter of a canvas, which somebody else draws with, the canvas's clip back.
+class TClipRestorer
+{
+public:
+    explicit TClipRestorer(vcl::TCanvas& Canvas) : FCanvas(Canvas) {}
+    ~TClipRestorer() { FCanvas.SetPainter(FCanvas.GetPainter()); }
+    TClipRestorer(const TClipRestorer&) = delete;
+    TClipRestorer& operator=(const TClipRestorer&) = delete;
+
+private:
+    vcl::TCanvas& FCanvas;
+};
+
+} // namespace
+
+void TCustomKSTreeView::PrintSmaller(vcl::TCanvas& Canvas, const vcl::TRect& Area, double Factor)
+{
+    const vcl::TRect Clip = Canvas.GetClipRect(); // attaches a canvas that has not drawn yet
     const vcl::TPoint Origin = Canvas.GetOrigin();
+    const vcl::TRect Paper =
+        vcl::Bounds(Clip.Left + Origin.X, Clip.Top + Origin.Y, Clip.Width(), Clip.Height());
+    const TClipRestorer Restorer(Canvas);
     treeview::TScaledPainter Painter(*Canvas.GetPainter(), Factor,
-                                     {Origin.X + Area.Left, Origin.Y + Area.Top});
+                                     {Origin.X + Area.Left, Origin.Y + Area.Top}, Paper);
     vcl::TCanvas Scaled(&Painter);
     // Rounded up, so that what just fits is centred and not taken for too large.
-    const vcl::TSize Paper{static_cast<int>(Area.Width() / Factor) + 1,
-                           static_cast<int>(Area.Height() / Factor) + 1};
-    Scaled.IntersectClipRect({0, 0, Paper.Width, Paper.Height});
-    PrintOn(Scaled, Paper, {});
-    return 1;
+    const auto Unscaled = [Factor](int Length) {
+        return static_cast<int>(std::min(Length / Factor, double{INT32_MAX / 2})) + 1;
+    };
+    const vcl::TSize Size{Unscaled(Area.Width()), Unscaled(Area.Height())};
+    Scaled.IntersectClipRect({0, 0, Size.Width, Size.Height});
+    PrintOn(Scaled, Size, {});
 }
 
 int TCustomKSTreeView::PrintPages(vcl::TCanvas& Canvas, const vcl::TRect& Area, int Page)
@@ -189,9 +245,7 @@ int TCustomKSTreeView::PrintPages(vcl::TCanvas& Canvas, const vcl::TRect& Area, 
     const int Count = GetPrintPageCount(Paper);
     if (Page < 0 || Page >= Count)
         return Count;
-    const vcl::TSize Total = FChart.GetTotal();
-    const bool FitsAcross = 2 * std::int64_t{FMetrics.HorzSpacing} + Total.Width <= Paper.Width;
-    const int Across = FitsAcross ? 1 : std::max(1, (Total.Width + Paper.Width - 1) / Paper.Width);
+    const int Across = PagesFor(Paper).Width;
     const vcl::TCanvasStateGuard Saved(Canvas);
     Canvas.IntersectClipRect(Area);
     PrintOn(Canvas, Paper,

@@ -48,7 +48,7 @@ void TNodePainter::DrawBox(const TKSTreeNode& Node)
         DrawShadow(Node.GetRect());
     if (FState.Font)
         FCanvas.SetFont(FState.Font);
-    if (!Node.GetEdited())
+    if (FState.IsPaper || !Node.GetEdited())
         DrawCaption(Node);
 }
 

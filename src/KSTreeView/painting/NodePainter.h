@@ -37,6 +37,8 @@ struct TTreeLook {
 struct TTreeState {
     bool HasFocus = false;
     bool IsEnabled = true;
+    /// Printing: a node that is being edited shows its text there.
+    bool IsPaper = false;
     /// The node whose text the editor covers; null: none.
     const TKSTreeNode* Edited = nullptr;
     const vcl::TFont* Font = nullptr;

@@ -42,13 +42,13 @@ vcl::TDrawState TScaledPainter::Map(const vcl::TDrawState& State) const
 
 void TScaledPainter::SetClip(const vcl::TRegion* Clip)
 {
-    if (!Clip) {
-        FTarget.SetClip(nullptr);
-        return;
+    vcl::TRegion Mapped(FClip);
+    if (Clip) {
+        Mapped.Clear();
+        for (const vcl::TRect& Rect : Clip->GetRects())
+            Mapped.Union(Map(Rect));
+        Mapped.Intersect(FClip);
     }
-    vcl::TRegion Mapped;
-    for (const vcl::TRect& Rect : Clip->GetRects())
-        Mapped.Union(Map(Rect));
     FTarget.SetClip(&Mapped);
 }
 

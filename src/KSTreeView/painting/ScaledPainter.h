@@ -12,9 +12,10 @@ namespace treeview
 class TScaledPainter final : public vcl::IPainter
 {
 public:
-    /// A point P of the drawing goes to Offset + P * Factor.
-    TScaledPainter(vcl::IPainter& Target, double Factor, vcl::TPoint Offset)
-        : FTarget(Target), FFactor(Factor), FOffset(Offset)
+    /// A point P of the drawing goes to Offset + P * Factor, as far as it lies in Clip; both are the target's
+    /// units.
+    TScaledPainter(vcl::IPainter& Target, double Factor, vcl::TPoint Offset, const vcl::TRect& Clip)
+        : FTarget(Target), FFactor(Factor), FOffset(Offset), FClip(Clip)
     {
     }
 
@@ -51,6 +52,7 @@ private:
     vcl::IPainter& FTarget;
     double FFactor;
     vcl::TPoint FOffset;
+    vcl::TRect FClip;
 };
 
 } // namespace treeview

@@ -126,6 +126,14 @@ TEST_F(TreeOnQt, ButtonsToggleTheWheelScrollsAndTheBackgroundPans)
                       Qt::NoScrollPhase, false);
     QApplication::sendEvent(Client(), &Wheel);
     EXPECT_EQ(Tree->GetHorzScrollBar()->GetPosition(), 40);
+    // A wheel turned to the right, which the toolkit counts as negative, shows what is on the right.
+    QWheelEvent Sideways(At, Client()->mapToGlobal(At), {}, {-120, 0}, Qt::NoButton, Qt::NoModifier,
+                         Qt::NoScrollPhase, false);
+    QApplication::sendEvent(Client(), &Sideways);
+    EXPECT_EQ(Tree->GetHorzScrollBar()->GetPosition(), 80);
+    QApplication::sendEvent(Client(), &Wheel);
+    EXPECT_EQ(Tree->GetHorzScrollBar()->GetPosition(), 120);
+    Tree->GetHorzScrollBar()->SetPosition(40);
     QTest::mousePress(Client(), Qt::LeftButton, Qt::NoModifier, {150, 5});
     QMouseEvent Move(QEvent::MouseMove, QPointF(100, 5), Client()->mapToGlobal(QPointF(100, 5)),
                      Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
