@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <cmath>
 #include <filesystem>
+#include <fstream>
+#include <stdexcept>
 
 namespace planner
 {
@@ -40,6 +42,50 @@ std::string WithExtension(const std::string& FileName, const std::string& Extens
     return std::filesystem::path(FileName.empty() ? "chart" : FileName)
         .replace_extension("." + Extension)
         .string();
+}
+
+std::string LineEndOf(const std::string& Text)
+{
+    const std::size_t Feed = Text.find('\n');
+    const bool IsBare = Feed != std::string::npos && (Feed == 0 || Text[Feed - 1] != '\r');
+    return IsBare ? "\n" : "\r\n";
+}
+
+std::string WithLineEnds(const std::string& Text, const std::string& LineEnd)
+{
+    std::string Result;
+    Result.reserve(Text.size());
+    for (std::size_t From = 0; From < Text.size();) {
+        const std::size_t End = std::min(Text.find("\r\n", From), Text.size());
+        Result.append(Text, From, End - From);
+        if (End < Text.size())
+            Result += LineEnd;
+        From = End + 2;
+    }
+    return Result;
+}
+
+void ReplaceFile(const std::string& FileName, const std::string& Text)
+{
+    namespace fs = std::filesystem;
+    std::error_code Error;
+    // A link stays one: what it leads to is replaced.
+    const fs::path Target = fs::is_symlink(FileName) ? fs::canonical(FileName, Error) : fs::path(FileName);
+    const fs::path Unfinished = Target.string() + ".part";
+    std::ofstream File(Unfinished, std::ios::binary | std::ios::trunc);
+    File.write(Text.data(), static_cast<std::streamsize>(Text.size()));
+    File.close();
+    bool IsWritten = !Error && !File.fail();
+    if (IsWritten) {
+        if (fs::exists(Target, Error))
+            fs::permissions(Unfinished, fs::status(Target).permissions(), Error);
+        fs::rename(Unfinished, Target, Error);
+        IsWritten = !Error;
+    }
+    if (IsWritten)
+        return;
+    fs::remove(Unfinished, Error);
+    throw std::runtime_error("Cannot write " + FileName);
 }
 
 vcl::TSize PrintPageFor(vcl::TSize Chart, vcl::TSize Paper)

@@ -16,6 +16,16 @@ std::string ChartTitle(const std::string& FileName, bool Modified);
 /// The file's name with Extension (without the dot) in the place of its own; "chart" for no name at all.
 std::string WithExtension(const std::string& FileName, const std::string& Extension);
 
+/// What the first line of a text ends with: "\n", or "\r\n", also when there is none.
+std::string LineEndOf(const std::string& Text);
+
+/// Lines that end with CR LF, with LineEnd instead.
+std::string WithLineEnds(const std::string& Text, const std::string& LineEnd);
+
+/// Writes a file whole or not at all: what was there stays when it cannot be written, for instance on a full
+/// disk. Throws std::runtime_error that names the file.
+void ReplaceFile(const std::string& FileName, const std::string& Text);
+
 /// The page to draw so that a chart fits on paper of that size at half its size at least. A chart that is
 /// larger still takes several such pages. Never smaller than the paper, and of its proportions.
 vcl::TSize PrintPageFor(vcl::TSize Chart, vcl::TSize Paper);

@@ -122,6 +122,8 @@ void TChartForm::LoadFile(const vcl::AnsiString& FileName)
     FView->FullExpand();
     FView->GetItems()->EndUpdate();
     FFileName = FileName;
+    FLineEnd = LineEndOf(
+        {reinterpret_cast<const char*>(Text.GetMemory()), static_cast<std::size_t>(Text.GetSize())});
     ShowTop();
     SetModified(false);
 }
@@ -147,7 +149,14 @@ bool TChartForm::OpenFile(const vcl::AnsiString& FileName)
 bool TChartForm::SaveFile(const vcl::AnsiString& FileName)
 {
     FView->HideNodeEditor(true);
-    if (!Try([&] { FView->SaveToFile(FileName); }))
+    const auto Write = [&] {
+        vcl::TMemoryStream Stream;
+        FView->SaveToStream(Stream);
+        const std::string Text(reinterpret_cast<const char*>(Stream.GetMemory()),
+                               static_cast<std::size_t>(Stream.GetSize()));
+        ReplaceFile(FileName, WithLineEnds(Text, FLineEnd));
+    };
+    if (!Try(Write))
         return false;
     FFileName = FileName;
     SetModified(false);

@@ -74,6 +74,7 @@ private:
     bool Try(TAction&& Action);
 
     vcl::AnsiString FFileName;
+    std::string FLineEnd = "\r\n"; // as the file had it
     bool FModified = false;
 
     TKSTreeView* FView = nullptr;

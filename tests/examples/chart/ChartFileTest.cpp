@@ -1,6 +1,11 @@
 #include "planner/ChartFile.h"
 
+#include <filesystem>
+#include <fstream>
+
 #include <gtest/gtest.h>
+
+#include "support/TemporaryFolder.h"
 
 namespace
 {
@@ -41,6 +46,44 @@ TEST(ChartFile, AChartIsMadeSmallerToFitAPageButNeverBelowHalf)
                               TCase{{1500, 10}, {1500, 1050}}, TCase{{10, 1050}, {1500, 1050}},
                               TCase{{2000, 700}, {2000, 1400}}, TCase{{90000, 700}, {2000, 1400}}})
         EXPECT_EQ(PrintPageFor(Case.Chart, Paper), Case.Page) << Case.Chart.Width << "x" << Case.Chart.Height;
+}
+
+TEST(ChartFile, LinesKeepTheEndsTheyHad)
+{
+    EXPECT_EQ(planner::LineEndOf("a\nb\r\n"), "\n");
+    EXPECT_EQ(planner::LineEndOf("\n"), "\n");
+    EXPECT_EQ(planner::LineEndOf("a\r\nb\n"), "\r\n");
+    EXPECT_EQ(planner::LineEndOf("a"), "\r\n");
+    EXPECT_EQ(planner::WithLineEnds("a\r\n\tb\r\n", "\n"), "a\n\tb\n");
+    EXPECT_EQ(planner::WithLineEnds("a\r\n\r\nb", "\n"), "a\n\nb");
+    EXPECT_EQ(planner::WithLineEnds("a\r\n", "\r\n"), "a\r\n");
+}
+
+TEST(ChartFile, IsReplacedWholeOrNotAtAll)
+{
+    const vcl::tests::TTemporaryFolder Folder;
+    const std::string Name = Folder.File("chart.txt");
+    planner::ReplaceFile(Name, "a longer text\n");
+    planner::ReplaceFile(Name, "short\n");
+    std::ifstream File(Name);
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(File), {}), "short\n");
+    EXPECT_FALSE(std::filesystem::exists(Name + ".part"));
+    EXPECT_THROW(planner::ReplaceFile(Folder.File("none/chart.txt"), "x"), std::runtime_error);
+    std::filesystem::create_directory(Folder.File("folder"));
+    EXPECT_THROW(planner::ReplaceFile(Folder.File("folder"), "x"), std::runtime_error);
+    EXPECT_TRUE(std::filesystem::is_directory(Folder.File("folder")));
+    EXPECT_FALSE(std::filesystem::exists(Folder.File("folder.part")));
+}
+
+TEST(ChartFile, ALinkGoesOnLeadingToItsFile)
+{
+    const vcl::tests::TTemporaryFolder Folder;
+    planner::ReplaceFile(Folder.File("chart.txt"), "old");
+    std::filesystem::create_symlink(Folder.File("chart.txt"), Folder.File("link.txt"));
+    planner::ReplaceFile(Folder.File("link.txt"), "new");
+    EXPECT_TRUE(std::filesystem::is_symlink(Folder.File("link.txt")));
+    std::ifstream File(Folder.File("chart.txt"));
+    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(File), {}), "new");
 }
 
 TEST(ChartFile, CountsOneBoxInTheSingular)
