@@ -53,6 +53,9 @@ const vcl::TClass& TChartForm::StaticClass()
                                            PublishedMethod<&TChartForm::CollapseAllClick>("CollapseAllClick"),
                                            PublishedMethod<&TChartForm::ViewChange>("ViewChange"),
                                            PublishedMethod<&TChartForm::ViewEdited>("ViewEdited"),
+                                           PublishedMethod<&TChartForm::ViewMouseDown>("ViewMouseDown"),
+                                           PublishedMethod<&TChartForm::ViewDragOver>("ViewDragOver"),
+                                           PublishedMethod<&TChartForm::ViewDragDrop>("ViewDragDrop"),
                                            PublishedMethod<&TChartForm::ViewKeyDown>("ViewKeyDown"),
                                            PublishedMethod<&TChartForm::FormCloseQuery>("FormCloseQuery"),
                                        });
@@ -294,6 +297,38 @@ void TChartForm::PrintClick(vcl::TObject*)
 void TChartForm::ExitClick(vcl::TObject*)
 {
     Close();
+}
+
+TKSTreeNode* TChartForm::NodeUnder(int X, int Y) const
+{
+    TKSTreeNode* Node = nullptr;
+    return FView->InternalGetHitTestInfoAt(X, Y, Node).Contains(TKSTVHitTest::htOnItem) ? Node : nullptr;
+}
+
+void TChartForm::ViewMouseDown(vcl::TObject*, vcl::TMouseButton Button, vcl::TShiftState Shift, int X, int Y)
+{
+    const bool IsPress = Button == vcl::TMouseButton::mbLeft && !Shift.Contains(vcl::TShiftKey::ssDouble);
+    if (IsPress && !FView->IsEditing() && NodeUnder(X, Y))
+        FView->BeginDrag(false);
+}
+
+void TChartForm::ViewDragOver(vcl::TObject*, vcl::TObject* Source, int X, int Y, vcl::TDragState,
+                              bool& Accept)
+{
+    const TKSTreeNode* const Target = NodeUnder(X, Y);
+    const TKSTreeNode* const Dragged = FView->GetFocusedNode();
+    Accept = Source == FView && Dragged && Target && Target != Dragged && Target != Dragged->GetParent() &&
+             !Target->HasAsParent(Dragged);
+}
+
+void TChartForm::ViewDragDrop(vcl::TObject*, vcl::TObject*, int X, int Y)
+{
+    TKSTreeNode* const Target = NodeUnder(X, Y);
+    TKSTreeNode* const Dragged = FView->GetFocusedNode();
+    Dragged->MoveTo(Target);
+    Target->Expand(false);
+    FView->ScrollInView(Dragged);
+    SetModified(true);
 }
 
 void TChartForm::NodeAdded(TKSTreeNode* Node)

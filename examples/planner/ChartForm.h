@@ -50,6 +50,11 @@ public:
     void CollapseAllClick(vcl::TObject* Sender);
     void ViewChange(vcl::TObject* Sender, TKSTreeNode* Node);
     void ViewEdited(vcl::TObject* Sender, TKSTreeNode* Node, vcl::AnsiString& Text);
+    /// Boxes are dragged onto the box they are to stand below.
+    void ViewMouseDown(vcl::TObject* Sender, vcl::TMouseButton Button, vcl::TShiftState Shift, int X, int Y);
+    void ViewDragOver(vcl::TObject* Sender, vcl::TObject* Source, int X, int Y, vcl::TDragState State,
+                      bool& Accept);
+    void ViewDragDrop(vcl::TObject* Sender, vcl::TObject* Source, int X, int Y);
     void ViewKeyDown(vcl::TObject* Sender, std::uint16_t& Key, vcl::TShiftState Shift);
     void FormCloseQuery(vcl::TObject* Sender, bool& CanClose);
 
@@ -65,6 +70,8 @@ private:
     /// Selects the first box and brings it to the middle of the window's width.
     void ShowTop();
     void NodeAdded(TKSTreeNode* Node);
+    /// The box at a point of the view; null: none.
+    TKSTreeNode* NodeUnder(int X, int Y) const;
     void Export(const char* Extension, const char* Filter);
     /// The whole chart with the spacing around it.
     vcl::TSize ChartSize();

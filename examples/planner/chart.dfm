@@ -160,6 +160,9 @@ object ChartForm: TChartForm
     HideSelection = False
     Align = alClient
     TabOrder = 1
+    OnDragDrop = ViewDragDrop
+    OnDragOver = ViewDragOver
+    OnMouseDown = ViewMouseDown
     OnKeyDown = ViewKeyDown
     OnChange = ViewChange
     OnEdited = ViewEdited

@@ -117,6 +117,7 @@ void TCustomKSTreeView::DestroyWnd()
     FEditTimerRuns = false;
     FEditPending = false;
     FPanning = false;
+    FDragScroll = {};
     TCustomControl::DestroyWnd();
 }
 

@@ -187,6 +187,8 @@ public:
 
     /// The arrow keys walk the chart and never reach OnKeyDown; further keys act when OnKeyDown left them.
     void KeyDown(std::uint16_t& Key, vcl::TShiftState Shift) override;
+    /// Near the edges of the view the chart scrolls while something is dragged over it.
+    void DragDrop(vcl::TObject* Source, int X, int Y) override;
     void WndProc(vcl::TMessage& Message) override;
     void Dispatch(vcl::TMessage& Message) override;
     void BeforeDestruction() override;
@@ -213,6 +215,7 @@ protected:
 
     void KeyPress(char32_t& Key) override;
     void BeginAutoDrag() override;
+    void DragOver(vcl::TObject* Source, int X, int Y, vcl::TDragState State, bool& Accept) override;
     void MouseMove(vcl::TShiftState Shift, int X, int Y) override;
     void MouseUp(vcl::TMouseButton Button, vcl::TShiftState Shift, int X, int Y) override;
     bool DoMouseWheel(vcl::TShiftState Shift, int WheelDelta, vcl::TPoint MousePos) override;
@@ -231,6 +234,8 @@ private:
     friend class TKSTVEdit;
     friend class TKSTVScrollBar;
     class THost;
+    static constexpr std::uint64_t EditTimer = 1;
+    static constexpr std::uint64_t DragScrollTimer = 2;
     /// The editor has lost the focus: see whether it stays so.
     static constexpr unsigned WM_EDITORLEFT = vcl::WM_USER + 1;
     class THandling;
@@ -271,6 +276,9 @@ private:
     void WMEditorLeft();
     void CheckOwn(const TKSTreeNode* Node) const;
     void StartPanning(vcl::TPoint Point);
+    void SetDragScroll(vcl::TPoint Directions);
+    void DragScrollTick();
+    void EditTimerTick();
     void TakeEditedText();
     /// The editor's window lost the focus: it closes unless it gets it back at once.
     void EditorLostFocus();
@@ -297,6 +305,7 @@ private:
     treeview::TTypeAhead FTypeAhead;
     vcl::TPoint FPanStart;
     vcl::TPoint FPanPosition;
+    vcl::TPoint FDragScroll; // directions, -1 to 1
     std::int64_t FWheelRest = 0;
     vcl::TScrollBarKind FWheelBar = vcl::TScrollBarKind::sbVertical;
     vcl::TMessage* FMessage = nullptr; // being handled

@@ -11,7 +11,6 @@ using vcl::TAliveGuard;
 namespace
 {
 
-constexpr std::uint64_t EditTimer = 1;
 /// Milliseconds from the click on the selected node to the editor.
 constexpr unsigned EditDelay = 500;
 
@@ -31,17 +30,13 @@ void TCustomKSTreeView::StopEditTimer()
     FEditPending = false;
 }
 
-void TCustomKSTreeView::WMTimer(vcl::TMessage& Message)
+void TCustomKSTreeView::EditTimerTick()
 {
-    if (Message.WParam != EditTimer) {
-        TCustomControl::WMTimer(Message);
-        return;
-    }
     FEditPending = false;
     if (!Focused())
         return; // the timer goes on until the view has the focus again
     StopEditTimer();
-    if (!FReadOnly)
+    if (!FReadOnly && !Dragging())
         EditNode(GetSelected());
 }
 

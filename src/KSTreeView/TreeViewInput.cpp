@@ -17,6 +17,9 @@ namespace
 
 /// A notch of the wheel moves so many times a bar's Increment.
 constexpr int WheelIncrements = 5;
+/// Milliseconds between two steps of scrolling while something is dragged, and their length in Increments.
+constexpr unsigned DragScrollInterval = 50;
+constexpr int DragScrollIncrements = 2;
 
 } // namespace
 
@@ -219,6 +222,54 @@ void TCustomKSTreeView::WMMouseHWheel(vcl::TMessage& Message)
         Message.Result = 1;
     else
         TCustomControl::Dispatch(Message);
+}
+
+void TCustomKSTreeView::WMTimer(vcl::TMessage& Message)
+{
+    if (Message.WParam == EditTimer)
+        EditTimerTick();
+    else if (Message.WParam == DragScrollTimer)
+        DragScrollTick();
+    else
+        TCustomControl::WMTimer(Message);
+}
+
+void TCustomKSTreeView::DragOver(vcl::TObject* Source, int X, int Y, vcl::TDragState State, bool& Accept)
+{
+    if (State == vcl::TDragState::dsDragLeave)
+        SetDragScroll({});
+    else
+        SetDragScroll(
+            {treeview::EdgeDirection(X, GetClientWidth()), treeview::EdgeDirection(Y, GetClientHeight())});
+    TCustomControl::DragOver(Source, X, Y, State, Accept);
+}
+
+void TCustomKSTreeView::DragDrop(vcl::TObject* Source, int X, int Y)
+{
+    SetDragScroll({});
+    TCustomControl::DragDrop(Source, X, Y);
+}
+
+void TCustomKSTreeView::SetDragScroll(vcl::TPoint Directions)
+{
+    const bool Ran = FDragScroll != vcl::TPoint{};
+    const bool Runs = Directions != vcl::TPoint{};
+    FDragScroll = Directions;
+    if (Runs && !Ran)
+        SetTimer(DragScrollTimer, DragScrollInterval);
+    else if (Ran && !Runs)
+        KillTimer(DragScrollTimer);
+}
+
+void TCustomKSTreeView::DragScrollTick()
+{
+    const TAliveGuard Guard(*this);
+    const auto Distance = [](const TKSTVScrollBar& Bar, int Direction) {
+        return vcl::SaturateToInt(std::int64_t{Bar.GetIncrement()} * DragScrollIncrements * Direction);
+    };
+    FHorzScrollBar->ScrollBy(Distance(*FHorzScrollBar, FDragScroll.X));
+    if (Guard.IsAlive())
+        FVertScrollBar->ScrollBy(Distance(*FVertScrollBar, FDragScroll.Y));
 }
 
 void TCustomKSTreeView::WMSize(vcl::TMessage& Message)

@@ -41,6 +41,13 @@ TDoubleClickSteps StepsOfDoubleClick(const TPress& Press, bool HasChildren)
     return Steps;
 }
 
+int EdgeDirection(int Position, int Room)
+{
+    constexpr int WidestZone = 24;
+    const int Zone = std::min(WidestZone, Room / 4);
+    return Position < Zone ? -1 : Position >= Room - Zone ? 1 : 0;
+}
+
 int ScrollDelta(int From, int To, int Room)
 {
     if (From < 0)

@@ -47,6 +47,10 @@ struct TDoubleClickSteps {
 
 TDoubleClickSteps StepsOfDoubleClick(const TPress& Press, bool HasChildren);
 
+/// Where to scroll while something is dragged at Position of an axis of Room pixels: -1 at its start, 1 at
+/// its end, 0 between. Each zone takes a quarter at most.
+int EdgeDirection(int Position, int Room);
+
 /// How far both scroll bars move so that From..To of an axis of Room pixels is seen; what is longer than Room
 /// shows its start.
 int ScrollDelta(int From, int To, int Room);

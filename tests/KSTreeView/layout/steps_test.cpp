@@ -130,4 +130,18 @@ TEST(TypeAhead, MatchesBeginningsInEitherCase)
     EXPECT_TRUE(treeview::BeginsWith("x", ""));
 }
 
+TEST(Steps, ADragScrollsNearTheEdges)
+{
+    using treeview::EdgeDirection;
+    EXPECT_EQ(EdgeDirection(-5, 400), -1);
+    EXPECT_EQ(EdgeDirection(23, 400), -1);
+    EXPECT_EQ(EdgeDirection(24, 400), 0);
+    EXPECT_EQ(EdgeDirection(375, 400), 0);
+    EXPECT_EQ(EdgeDirection(376, 400), 1);
+    EXPECT_EQ(EdgeDirection(500, 400), 1);
+    EXPECT_EQ(EdgeDirection(10, 40), 0) << "a small view keeps half of it for dropping";
+    EXPECT_EQ(EdgeDirection(9, 40), -1);
+    EXPECT_EQ(EdgeDirection(30, 40), 1);
+}
+
 } // namespace

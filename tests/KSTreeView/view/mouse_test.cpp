@@ -232,6 +232,33 @@ TEST_F(TreeMouse, WithAutomaticDragAPressWithoutMovingIsAClickAndTheButtonStillT
     EXPECT_THAT(Log, IsEmpty());
 }
 
+TEST_F(LargeTree, ADragNearAnEdgeScrollsUntilItLeavesOrDrops)
+{
+    ShowLarge();
+    Tree->SetDragMode(vcl::TDragMode::dmAutomatic);
+    Tree->OnDragOver = [](vcl::TObject*, vcl::TObject*, int, int, vcl::TDragState, bool& Accept) {
+        Accept = true;
+    };
+    vcl::record::TWindow& Window = WindowOf(*Tree);
+    const vcl::TPoint From = Middle(Tree->GetItems()->GetFirstNode()->GetRect());
+    const vcl::TPoint Edge{Tree->GetClientWidth() - 5, From.Y};
+    const vcl::TPoint Inside{Tree->GetClientWidth() / 2, From.Y};
+    Windows().MouseDown(Window, From);
+    Windows().MouseMove(Window, Inside, vcl::MK_LBUTTON);
+    Windows().Advance(500);
+    EXPECT_EQ(Tree->GetHorzScrollBar()->GetPosition(), 0);
+    Windows().MouseMove(Window, Edge, vcl::MK_LBUTTON);
+    Windows().Advance(100);
+    EXPECT_EQ(Tree->GetHorzScrollBar()->GetPosition(), 2 * 2 * 8);
+    Windows().MouseMove(Window, Inside, vcl::MK_LBUTTON);
+    Windows().Advance(500);
+    EXPECT_EQ(Tree->GetHorzScrollBar()->GetPosition(), 2 * 2 * 8);
+    Windows().MouseMove(Window, Edge, vcl::MK_LBUTTON);
+    Windows().MouseUp(Window, Edge);
+    Windows().Advance(500);
+    EXPECT_EQ(Tree->GetHorzScrollBar()->GetPosition(), 2 * 2 * 8);
+}
+
 TEST_F(TreeMouse, HandlersMayFreeTheView)
 {
     const std::vector<std::function<void()>> Arrange = {
