@@ -56,6 +56,7 @@ protected:
     static std::string Data(const std::string& Name) { return ReadTestData("model/forms/" + Name); }
     void Put(const std::string& Name, const std::string& Content) const { Save(FFolder.File(Name), Content); }
     std::string Get(const std::string& Name) const { return Load(FFolder.File(Name)); }
+    std::string Path(const std::string& Name) const { return FFolder.File(Name); }
     bool Exists(const std::string& Name) const { return std::filesystem::exists(FFolder.File(Name)); }
     int FileCount() const
     {
