@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include "KSTreeView/KSTreeView.h"
+#include "vcl/controls/Button.h"
 #include "vcl/forms/Application.h"
 #include "vcl/forms/Form.h"
 #include "vcl/platform/Platform.h"
@@ -140,6 +141,32 @@ TEST_F(TreeOnQt, ButtonsToggleTheWheelScrollsAndTheBackgroundPans)
     QApplication::sendEvent(Client(), &Move);
     QTest::mouseRelease(Client(), Qt::LeftButton, Qt::NoModifier, {100, 5});
     EXPECT_EQ(Tree->GetHorzScrollBar()->GetPosition(), 90);
+}
+
+TEST_F(TreeOnQt, TabInTheEditorAcceptsAndMovesOn)
+{
+    auto* const Next = vcl::New<vcl::TButton>(Form);
+    Next->SetBounds(0, 250, 50, 20);
+    Next->SetParent(Form);
+    TKSTreeNode* const Boss = Tree->GetItems()->Add(nullptr, "Boss");
+    Show();
+    Tree->SetFocus();
+    const auto TabWith = [&](Qt::KeyboardModifiers Modifiers) {
+        Boss->SetText("Boss");
+        Boss->EditText();
+        Process();
+        ASSERT_TRUE(Tree->IsEditing());
+        QTest::keyClicks(Frame(*Tree->GetEditor()), "x");
+        QTest::keyClick(Frame(*Tree->GetEditor()), Qt::Key_Tab, Modifiers);
+        Process();
+        EXPECT_FALSE(Tree->IsEditing());
+        EXPECT_EQ(Boss->GetText(), "x");
+    };
+    TabWith(Qt::NoModifier);
+    EXPECT_TRUE(Next->Focused());
+    Tree->SetFocus();
+    TabWith(Qt::ShiftModifier);
+    EXPECT_TRUE(Tree->Focused()) << "the view stands before its editor";
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-#include "KSTreeView/view/TreeViewFixture.h"
+#include "KSTreeView/view/EditingFixture.h"
 
 using testing::ElementsAre;
 using testing::IsEmpty;
@@ -6,20 +6,8 @@ using testing::IsEmpty;
 namespace
 {
 
-class TreeEditing : public TTreeViewTest
+class TreeEditing : public TTreeEditingTest
 {
-protected:
-    void Edit(const std::string& Lines, const std::string& Text)
-    {
-        Show(Lines);
-        Tree->SetFocus();
-        Tree->SelectNode(Node(Text));
-        LogEvents();
-        Node(Text)->EditText();
-        Windows().ProcessMessages();
-    }
-    /// As a person does: everything is selected, so typing replaces it.
-    void Type(const std::string& Text) { Windows().Type(Text); }
 };
 
 TEST_F(TreeEditing, OpensTheEditorOverTheTextOfTheNode)
