@@ -120,6 +120,50 @@ TEST_F(Navigation, MakeVisibleExpandsAncestorsWithoutEventsAndRefreshes)
     EXPECT_EQ(Tree.Log, std::vector<std::string>{"refresh"});
 }
 
+TEST_F(Navigation, MakeVisibleMarksAndExpandsEveryAncestor)
+{
+    Tree.Fill({"C", " C1", "  C11", "   C111"});
+    for (const char* Above : {"C", "C1", "C11"})
+        Node(Above)->SetHasChildren(false);
+    Node("C111")->MakeVisible();
+    for (const char* Above : {"C", "C1", "C11"}) {
+        EXPECT_TRUE(Node(Above)->GetHasChildren()) << Above;
+        EXPECT_TRUE(Node(Above)->GetExpanded()) << Above;
+    }
+    EXPECT_FALSE(Node("C111")->GetExpanded());
+    EXPECT_FALSE(Node("A")->GetExpanded());
+}
+
+TEST_F(Navigation, MakeVisibleRefreshesForAVisibleNodeTooButNotWhileUpdating)
+{
+    Node("A")->MakeVisible();
+    EXPECT_EQ(Tree.Log, std::vector<std::string>{"refresh"});
+    Tree.Log.clear();
+    Tree.Items().BeginUpdate();
+    Node("A")->MakeVisible();
+    Node("A11")->MakeVisible();
+    EXPECT_TRUE(Node("A11")->IsVisible());
+    EXPECT_TRUE(Tree.Log.empty());
+    Tree.Items().EndUpdate();
+}
+
+TEST_F(Navigation, ItemsOfSeveralParentsMayBeAskedForInTurn)
+{
+    EXPECT_EQ(Node("A")->GetItem(1), Node("A2"));
+    EXPECT_EQ(Node("A")->GetItem(-1), Node("A1")) << "after a later one";
+    EXPECT_EQ(Node("A")->GetItem(1), Node("A2"));
+    EXPECT_EQ(Node("B")->GetItem(0), Node("B1"));
+    EXPECT_EQ(Node("A")->GetItem(1), Node("A2"));
+    // So many that a place asked for before is nearer than either end.
+    for (int Index = 2; Index <= 9; ++Index) {
+        Tree.Items().AddChild(Node("A"), "A" + std::to_string(Index + 1));
+        Tree.Items().AddChild(Node("B"), "B" + std::to_string(Index));
+    }
+    for (const char* Parent : {"A", "B", "A"})
+        for (const int Index : {4, 5, 3})
+            EXPECT_EQ(Node(Parent)->GetItem(Index)->GetText(), Parent + std::to_string(Index + 1));
+}
+
 TEST_F(Navigation, NodesByIndexAreThoseInWalkingOrderWhateverTheOrderOfAsking)
 {
     const std::vector<std::string> Texts = {"A", "A1", "A11", "A2", "B", "B1"};

@@ -2,38 +2,22 @@
 #include <gtest/gtest.h>
 
 #include "KSTreeView/model/FakeTree.h"
+#include "KSTreeView/model/StreamBytes.h"
 #include "support/Hex.h"
 #include "vcl/streaming/Filer.h"
 
+using treeview::tests::Int;
+using treeview::tests::Read;
+using treeview::tests::Record;
+
 namespace
 {
-
-void Int(vcl::TStream& Stream, std::initializer_list<int> Values)
-{
-    for (const int Value : Values)
-        Stream.WriteInt32(Value);
-}
-
-/// One record: info, text and string data.
-void Record(vcl::TStream& Stream, const std::string& Text, int Count, int InfoSize = 16)
-{
-    Int(Stream, {InfoSize});
-    Int(Stream, {-1, 0, 0, Count});
-    Stream.WriteCountedString(Text);
-    Stream.WriteCountedString("");
-}
 
 std::vector<std::uint8_t> Written(const TKSTreeNodes& Nodes)
 {
     vcl::TMemoryStream Stream;
     Nodes.WriteData(Stream);
     return Stream.GetBytes();
-}
-
-void Read(TKSTreeNodes& Nodes, vcl::TMemoryStream& Stream)
-{
-    Stream.SetPosition(0);
-    Nodes.ReadData(Stream);
 }
 
 TEST(Stream, AnEmptyCollectionIsOneZero)
