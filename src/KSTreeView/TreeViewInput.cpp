@@ -166,7 +166,7 @@ void TCustomKSTreeView::MouseMove(vcl::TShiftState Shift, int X, int Y)
     TCustomControl::MouseMove(Shift, X, Y);
     if (!Guard.IsAlive() || !FPanning)
         return;
-    if (!Shift.Contains(vcl::TShiftKey::ssLeft)) {
+    if (!Shift.Contains(vcl::TShiftKey::ssLeft) || !GetMouseCapture()) {
         FPanning = false;
         return;
     }

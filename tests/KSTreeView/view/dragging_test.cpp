@@ -153,4 +153,14 @@ TEST_F(TreePanning, EndsWhenTheButtonWasReleasedElsewhere)
     EXPECT_EQ(Position(), (vcl::TPoint{80, 10}));
 }
 
+TEST_F(TreePanning, EndsWhenSomebodyElseTakesTheMouse)
+{
+    PressBackground();
+    Pan(-30, 10);
+    WindowOf(*Other).SetCapture(true);
+    WindowOf(*Other).SetCapture(false);
+    Pan(0, 0);
+    EXPECT_EQ(Position(), (vcl::TPoint{80, 10}));
+}
+
 } // namespace

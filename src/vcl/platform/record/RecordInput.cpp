@@ -120,7 +120,13 @@ void TWindowSystem::Wheel(TWindow& Window, TPoint Point, int Distance, unsigned 
                     MakePointParam(FCursorPos.X, FCursorPos.Y));
 }
 
-void TWindowSystem::CharOf(std::uint16_t Key)
+bool TWindowSystem::HasWindow(const TWindow* Window) const
+{
+    return std::find(FWindows.begin(), FWindows.end(), Window) != FWindows.end();
+}
+
+/// The window that got the key gets its character, if it is still there.
+void TWindowSystem::CharOf(TWindow* Window, std::uint16_t Key)
 {
     const bool IsPrintable = (Key >= '0' && Key <= '9') || (Key >= 'A' && Key <= 'Z') || Key == VK_SPACE;
     const bool IsControl = Key == VK_RETURN || Key == VK_ESCAPE || Key == VK_BACK || Key == VK_TAB;
@@ -132,8 +138,8 @@ void TWindowSystem::CharOf(std::uint16_t Key)
         Char = Key - 'A' + 1u;
     else if (IsLetter && !(FKeyFlags & MK_SHIFT))
         Char = Key - 'A' + std::uint64_t{'a'};
-    if (FFocused)
-        FFocused->Send(FKeyFlags & MK_ALT ? WM_SYSCHAR : WM_CHAR, Char);
+    if (HasWindow(Window))
+        Window->Send(FKeyFlags & MK_ALT ? WM_SYSCHAR : WM_CHAR, Char);
 }
 
 void TWindowSystem::KeyPress(std::uint16_t Key, unsigned Modifiers)
@@ -141,9 +147,9 @@ void TWindowSystem::KeyPress(std::uint16_t Key, unsigned Modifiers)
     const TDispatch Dispatch(*this);
     FKeyFlags = Modifiers;
     const bool IsSystem = (Modifiers & MK_ALT) != 0;
-    if (FFocused && AcceptsInput(*FFocused) &&
-        FFocused->Send(IsSystem ? WM_SYSKEYDOWN : WM_KEYDOWN, Key) != 1)
-        CharOf(Key);
+    TWindow* const Window = FFocused;
+    if (Window && AcceptsInput(*Window) && Window->Send(IsSystem ? WM_SYSKEYDOWN : WM_KEYDOWN, Key) != 1)
+        CharOf(Window, Key);
     if (FFocused)
         FFocused->Send(IsSystem ? WM_SYSKEYUP : WM_KEYUP, Key);
     FKeyFlags = 0;
@@ -158,10 +164,11 @@ void TWindowSystem::Type(const AnsiString& Text)
                                   : Char < 0x80 ? std::uint64_t{Char}
                                                 : std::uint64_t{VK_PROCESSKEY};
         FKeyFlags = Char >= 'A' && Char <= 'Z' ? MK_SHIFT : 0;
-        if (!FFocused || !AcceptsInput(*FFocused))
+        TWindow* const Window = FFocused;
+        if (!Window || !AcceptsInput(*Window))
             return;
-        if (FFocused->Send(WM_KEYDOWN, Key) != 1 && FFocused)
-            FFocused->Send(WM_CHAR, Char);
+        if (Window->Send(WM_KEYDOWN, Key) != 1 && HasWindow(Window))
+            Window->Send(WM_CHAR, Char);
         if (FFocused)
             FFocused->Send(WM_KEYUP, Key);
     }

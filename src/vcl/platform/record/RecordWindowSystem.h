@@ -135,7 +135,8 @@ private:
     bool AcceptsInput(TWindow& Window) const;
     TWindow& Receiver(TWindow& Window, TPoint& Point);
     void MouseMessage(TWindow& Window, unsigned Msg, TPoint Point, unsigned Keys);
-    void CharOf(std::uint16_t Key);
+    void CharOf(TWindow* Window, std::uint16_t Key);
+    bool HasWindow(const TWindow* Window) const;
 
     std::vector<TWindow*> FWindows;
     std::vector<std::unique_ptr<TWindow, void (*)(TWindow*)>> FBuried;
