@@ -40,6 +40,13 @@ TEST(DivideWidth, WithoutRulerTheDaysStartAtTheEdgeAndHalvesGoToTheEvenPixel)
     EXPECT_EQ(DivideWidth(7, false, 50, 2), (std::vector<TDayColumn>{{0, 4}, {4, 3}}));
 }
 
+TEST(DivideWidth, TheShareOfADayIsSummedInSinglePrecision)
+{
+    // Three times the share is a little below 3.5; in double precision it would be 3.5 and go to 4.
+    EXPECT_EQ(DivideWidth(7, false, 50, 6),
+              (std::vector<TDayColumn>{{0, 1}, {1, 1}, {2, 1}, {3, 2}, {5, 1}, {6, 1}}));
+}
+
 TEST(DivideWidth, AWindowNarrowerThanItsRulerGivesNegativeWidths)
 {
     EXPECT_EQ(DivideWidth(10, true, 50, 1), (std::vector<TDayColumn>{{50, -40}}));
@@ -62,6 +69,19 @@ TEST(TimedItemExtent, ColumnEdgesAreRoundedSumsOfTheShare)
 {
     EXPECT_EQ(TimedItemExtent(PlaceInDay(1, 3, false)), (TItemExtent{167, 227}));
     EXPECT_EQ(TimedItemExtent(PlaceInDay(2, 3, false)), (TItemExtent{233, 294}));
+}
+
+TEST(TimedItemExtent, TheShareOfAColumnIsOfSinglePrecision)
+{
+    EXPECT_EQ(TimedItemExtent({{0, 7}, 3, 6, 0, false, false}), (TItemExtent{3, 5}));
+    EXPECT_EQ(TimedItemExtent({{0, 7}, 2, 6, 0, false, false}), (TItemExtent{2, 3}));
+}
+
+TEST(TimedItemExtent, HalvesGoToTheEvenPixelOfTheDayNotOfTheWindow)
+{
+    EXPECT_EQ(TimedItemExtent({{0, 101}, 0, 2, 0, false, false}), (TItemExtent{0, 50}));
+    EXPECT_EQ(TimedItemExtent({{51, 101}, 1, 2, 0, false, false}), (TItemExtent{101, 152}));
+    EXPECT_EQ(TimedItemExtent({{0, 103}, 1, 2, 0, false, false}), (TItemExtent{52, 103}));
 }
 
 TEST(TimedItemExtent, AnItemDraggedInFromOutsideLiesOverTheWholeDay)

@@ -48,6 +48,16 @@ TEST(TimeToPos, TheEndOfTheDayIsTheBottomOfTheScaleAlsoASecondBefore)
     EXPECT_EQ(Scale.TimeToPos(1.0 - 2.0 / 86400, 1), 959 + 22 + 40 - 1);
 }
 
+TEST(TimeToPos, MoreThanASecondFromTheEndIsTheLastMinute)
+{
+    const TTimeScale Scale = DefaultScale();
+    const int Bottom = 960 + 22 + 40 - 1;
+    EXPECT_EQ(Scale.TimeToPos(1.0 - 1.1 / 86400, 1), Bottom - 1);
+    EXPECT_EQ(Scale.TimeToPos(1.0 - 0.9 / 86400, 1), Bottom);
+    EXPECT_EQ(Scale.TimeToPos(1.0 - 1.1 / 86400, 60), Bottom - 40);
+    EXPECT_EQ(Scale.TimeToPos(1.0, 60), Bottom);
+}
+
 TEST(TimeToPos, ClampsTimesOutsideADayAndTakesNoNumberForMidnight)
 {
     const TTimeScale Scale = DefaultScale();
@@ -97,6 +107,30 @@ TEST(PosToTime, RoundsDownOrToTheNearest)
     EXPECT_DOUBLE_EQ(Scale.PosToTime(NineTwenty, 30, false), Clock(9, 0));
     EXPECT_DOUBLE_EQ(Scale.PosToTime(NineTwenty, 30, true), Clock(9, 30));
     EXPECT_EQ(Scale.PosToTime(22 + 40 + 950, 60, true), 1.0);
+}
+
+TEST(PosToTime, TakesMultiplesOfResolutionsThatDoNotDivideTheDay)
+{
+    TTimeScale Scale = DefaultScale();
+    Scale.TotalHeight = 1440;
+    const auto Minutes = [&](int Row, bool Nearest) {
+        return Scale.PosToTime(22 + 40 + Row, 50, Nearest) * 1440;
+    };
+    EXPECT_DOUBLE_EQ(Minutes(99, false), 50);
+    EXPECT_DOUBLE_EQ(Minutes(74, true), 50);
+    EXPECT_DOUBLE_EQ(Minutes(75, true), 100);
+    EXPECT_DOUBLE_EQ(Minutes(1440, false), 1400) << "the last whole step, not the end of the day";
+    EXPECT_DOUBLE_EQ(Minutes(1425, true), 1440) << "1450 is past the end, so it is the end";
+    EXPECT_EQ(Scale.PosToTime(5000, 50, true), 1.0);
+    EXPECT_DOUBLE_EQ(Scale.PosToTime(5000, 50, false) * 1440, 1400);
+}
+
+TEST(PosToTime, TheNearestStepOfAnOddResolutionTakesItsHalfRoundedDown)
+{
+    TTimeScale Scale = DefaultScale();
+    Scale.TotalHeight = 1440;
+    EXPECT_EQ(Scale.PosToTime(22 + 40 + 2, 5, true), 0.0);
+    EXPECT_DOUBLE_EQ(Scale.PosToTime(22 + 40 + 3, 5, true), Clock(0, 5));
 }
 
 TEST(PosToTime, IsTheInverseOfTimeToPosOneRowBelow)

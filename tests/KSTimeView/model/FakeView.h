@@ -35,8 +35,11 @@ public:
     timeview::TViewGeometry Geometry() const override { return Layout; }
     void Repaint() override
     {
-        if (!FItems->IsUpdating())
-            Log.push_back("repaint");
+        if (FItems->IsUpdating())
+            return;
+        Log.push_back("repaint");
+        if (OnRepaint)
+            OnRepaint();
     }
     void RepaintDays(int Left, int Right) override
     {
@@ -53,14 +56,23 @@ public:
     {
         Log.push_back("draw " + Item->GetCaption());
     }
-    void HideItemEditor(bool Accept) override { Log.push_back(Accept ? "hide editor" : "cancel editor"); }
+    void HideItemEditor(bool Accept) override
+    {
+        Log.push_back(Accept ? "hide editor" : "cancel editor");
+        if (OnHideEditor)
+            OnHideEditor();
+    }
     TKSTimeViewItem* EditedItem() const override { return Editing; }
     void SetEditorColor(vcl::TColor Color) override
     {
         Log.push_back("editor colour " + std::to_string(Color));
     }
     TKSTimeViewItem* SelectedItem() const override { return Selection; }
-    void ClearSelectedItem() override { Selection = nullptr; }
+    void ClearSelectedItem() override
+    {
+        Log.push_back("clear selection");
+        Selection = nullptr;
+    }
     bool HasPrivateImage() const override { return PrivateImage; }
     bool HasReminderImage() const override { return ReminderImage; }
     void ItemDeleting(TKSTimeViewItem* Item) override
@@ -98,6 +110,8 @@ public:
     TKSTimeViewItem* Selection = nullptr;
     std::function<void(TKSTimeViewItem*)> OnDeletion;
     std::function<void(TKSTimeviewDay*)> OnNewDay;
+    std::function<void()> OnHideEditor;
+    std::function<void()> OnRepaint;
     std::vector<std::string> Log;
     /// Of the repaints that reached some days only.
     std::vector<std::pair<int, int>> Ranges;

@@ -26,9 +26,28 @@ TEST(Deletion, ClosesTheEditorClearsTheSelectionTellsAndLeavesInThisOrder)
         EXPECT_EQ(View.Day(0)->GetCount(), 1);
     };
     Item->Delete();
-    EXPECT_THAT(View.Log, ElementsAre("hide editor", "deleting Lunch", "repaint"));
+    EXPECT_THAT(View.Log, ElementsAre("hide editor", "clear selection", "deleting Lunch", "repaint"));
     EXPECT_EQ(View.Items().GetCount(), 0);
     EXPECT_EQ(View.Day(0)->GetCount(), 0);
+}
+
+TEST(Deletion, RepaintsWhenTheItemIsGoneFromDaysAndCollectionAndTheOthersAreLaidOut)
+{
+    TFakeView View;
+    TKSTimeViewItem* const Item = View.Add(10, 12);
+    TKSTimeViewItem* const Other = View.Add(10, 12);
+    ASSERT_EQ(Other->GetColumn(0), 1);
+    int Repaints = 0;
+    View.OnRepaint = [&] {
+        ++Repaints;
+        EXPECT_EQ(View.Day(0)->GetCount(), 1);
+        EXPECT_EQ(View.Items().GetCount(), 1);
+        EXPECT_EQ(View.Items().FirstItem(), Other);
+        EXPECT_EQ(Other->GetColumn(0), 0);
+    };
+    Item->Delete();
+    EXPECT_EQ(Repaints, 1);
+    View.OnRepaint = nullptr;
 }
 
 TEST(Deletion, OfAnotherItemLeavesTheSelection)
