@@ -2,7 +2,7 @@
 #include <climits>
 #include <limits>
 
-#include "KSTimeView/view/ViewFixture.h"
+#include "KSTimeView/view/PaintingFixture.h"
 #include "support/Expected.h"
 #include "vcl/graphics/ImageList.h"
 
@@ -16,46 +16,7 @@ using testing::Not;
 namespace
 {
 
-using TLines = std::vector<std::string>;
-
-/// Lines is in All, one after the other without others between.
-testing::AssertionResult HasRun(const TLines& All, const TLines& Lines)
-{
-    if (std::search(All.begin(), All.end(), Lines.begin(), Lines.end()) != All.end())
-        return testing::AssertionSuccess();
-    auto Result = testing::AssertionFailure() << "not painted in this order:";
-    for (const std::string& Line : All)
-        Result << '\n' << Line;
-    return Result;
-}
-
-TLines Matching(const TLines& All, const std::string& Start, const std::string& Part)
-{
-    TLines Result;
-    for (const std::string& Line : All)
-        if (Line.starts_with(Start) && Line.find(Part) != std::string::npos)
-            Result.push_back(Line);
-    return Result;
-}
-
-class TTimeViewPainting : public TTimeViewTest
-{
-protected:
-    /// No ruler, no lines: what remains are the days.
-    void ShowDaysOnly()
-    {
-        View().SetShowRuler(false);
-        View().SetShowTimeLines(false);
-        Show(200, 400);
-    }
-    std::string AllText()
-    {
-        std::string Text;
-        for (const std::string& Line : Painting())
-            Text += Line + '\n';
-        return Text;
-    }
-};
+using TTimeViewPainting = TTimeViewPaintingTest;
 
 TEST_F(TTimeViewPainting, AnEmptyDayIsPaintedStepByStep)
 {
@@ -385,43 +346,6 @@ TEST_F(TTimeViewPainting, StrangeSizesArePainted)
     View().SetDateRange(1e300, 3);
     Painting();
     EXPECT_THAT(FErrors, IsEmpty());
-}
-
-TEST_F(TTimeViewPainting, AClockHasTwelveTicksAndTwoHands)
-{
-    vcl::TRecordingPainter Recorder({0, 0, 100, 100});
-    vcl::TCanvas Canvas(&Recorder);
-    View().DrawClock(&Canvas, {0, 0, 21, 21}, 15.0 / 24);
-    const TLines& Lines = Recorder.GetLines();
-    ASSERT_EQ(Lines.size(), 15u);
-    EXPECT_EQ(Lines[0], "ellipse 0,0,21,21 pen=000000 brush=000000");
-    EXPECT_EQ(Lines[1], "line 19,10 18,10 pen=FFFFFF");
-    EXPECT_EQ(Lines[4], "line 10,1 10,2 pen=FFFFFF");
-    EXPECT_EQ(Lines[13], "line 10,10 10,1 pen=FFFFFF") << "the minute hand points up";
-    EXPECT_EQ(Lines[14], "line 10,10 17,10 pen=FFFFFF") << "the hour hand points to the three";
-    Recorder.Clear();
-    View().DrawClock(&Canvas, {0, 0, 21, 21}, (9 * 60 + 15) / 1440.0);
-    EXPECT_EQ(Recorder.GetLines()[13], "line 10,10 19,10 pen=FFFFFF") << "a quarter past points right";
-    EXPECT_EQ(Recorder.GetLines()[14], "line 10,10 3,9 pen=FFFFFF");
-}
-
-TEST_F(TTimeViewPainting, TheHintWindowIsAsLargeAsItsTextAndALittleMore)
-{
-    Show();
-    auto* const Hint = vcl::New<TKSTimeViewHintWindow>(FForm);
-    const int LineHeight = Hint->GetCanvas()->TextHeight("x");
-    const vcl::TRect OneLine = Hint->CalcHintRect(500, "09:00");
-    EXPECT_EQ(OneLine.Height(), LineHeight + 2);
-    EXPECT_EQ(Hint->CalcHintRect(40, "09:00 - 10:00 Lunch").Height(), 4 * LineHeight + 2);
-    Hint->ActivateHint({30, 40, 130, 60}, "09:00");
-    EXPECT_EQ(Hint->GetBoundsRect(), (vcl::TRect{30, 40, 130, 64}));
-    EXPECT_EQ(Hint->GetCaption(), "09:00");
-    EXPECT_TRUE(Hint->IsHintShowing());
-    EXPECT_FALSE(Hint->Focused());
-    vcl::TRecordingPainter Recorder({0, 0, 1000, 1000});
-    vcl::TCanvas Canvas(&Recorder);
-    Hint->PaintTo(Canvas, 0, 0);
-    EXPECT_EQ(Matching(Recorder.GetLines(), "text", "\"09:00\"").size(), 1u);
 }
 
 } // namespace
