@@ -235,6 +235,19 @@ TEST_F(TTimeViewInput, DaysTellOfTheirWorkingHoursAndTheViewOfNewDays)
     EXPECT_FALSE(View().AllDayItemExistOnDay(Monday));
 }
 
+TEST_F(TTimeViewInput, ItemsExistOnDaysWhetherTheseAreShownOrNot)
+{
+    Add(25, 48);
+    Add(72, 96, true);
+    EXPECT_FALSE(View().ItemExistOnDay(Monday));
+    EXPECT_TRUE(View().ItemExistOnDay(Monday + 1));
+    EXPECT_FALSE(View().ItemExistOnDay(Monday + 2)) << "it ends at midnight";
+    EXPECT_FALSE(View().ItemExistOnDay(Monday + 3)) << "an all-day item is no timed one";
+    EXPECT_TRUE(View().AllDayItemExistOnDay(Monday + 3));
+    EXPECT_FALSE(View().AllDayItemExistOnDay(Monday + 1));
+    EXPECT_FALSE(View().AllDayItemExistOnDay(Monday + 4));
+}
+
 TEST_F(TTimeViewInput, ChangesInsideAnUpdateDoNotRepaint)
 {
     Show();
