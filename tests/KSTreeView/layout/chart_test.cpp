@@ -1,33 +1,14 @@
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <random>
 #include <set>
 
-#include "KSTreeView/layout/Chart.h"
-#include "KSTreeView/model/FakeTree.h"
+#include "KSTreeView/layout/ChartFixture.h"
 
 using treeview::TChart;
-using treeview::TChartFrame;
-using treeview::TChartMetrics;
 
 namespace
 {
 
-class Chart : public testing::Test
+class Chart : public TChartTest
 {
-protected:
-    void LayOut(TChartFrame Frame)
-    {
-        View.Arrange(Tree.Items(), Tree.Layout);
-        View.Place(View.OriginFor(Frame));
-    }
-    TKSTreeNode* Node(const char* Text) { return Tree.Find(Text); }
-    const vcl::TRect& Rect(const char* Text) { return Tree.Find(Text)->GetRect(); }
-
-    TFakeTree Tree;
-    TChart View;
 };
 
 TEST_F(Chart, AnEmptyTreeHasNoSizeAndItsOriginIsTheMiddle)
@@ -228,103 +209,6 @@ TEST_F(Chart, NothingIsLaidOutAnewUntilSomethingChanges)
     Node("A")->Delete();
     LayOut({400, 300});
     EXPECT_EQ(View.GetShown().size(), 2u);
-}
-
-/// The rules as they are told, recursion and all.
-struct TPlainLayout {
-    explicit TPlainLayout(const TChartMetrics& Of) : Metrics(Of) {}
-    struct TPlace {
-        int Offset = 0;
-        int Left = 0;
-        int Right = 0;
-    };
-    void Arrange(const TKSTreeNode& Node)
-    {
-        TPlace& Place = Places[&Node];
-        if (Node.GetHasChildren() && Node.GetExpanded() && Node.GetFirstChild()) {
-            int Total = 0;
-            int Count = 0;
-            for (auto* Child = Node.GetFirstChild(); Child; Child = Child->GetNextSibling(), ++Count) {
-                Arrange(*Child);
-                Total += Places[Child].Right - Places[Child].Left;
-            }
-            int X = -((Total + Metrics.HorzSpacing * (Count - 1)) / 2);
-            for (auto* Child = Node.GetFirstChild(); Child; Child = Child->GetNextSibling()) {
-                const int Width = Places[Child].Right - Places[Child].Left;
-                Places[Child].Offset = Width / 2 + X;
-                X += Width + Metrics.HorzSpacing;
-            }
-            const TPlace First = Places[Node.GetFirstChild()];
-            const TPlace Last = Places[Node.GetLastChild()];
-            Places[&Node].Left = First.Offset - (First.Right - First.Left) / 2;
-            Places[&Node].Right = Last.Offset + (Last.Right - Last.Left) / 2;
-        } else {
-            Place.Left = -Metrics.NodeWidth / 2;
-            Place.Right = -Place.Left;
-        }
-    }
-    TChartMetrics Metrics;
-    std::map<const TKSTreeNode*, TPlace> Places;
-};
-
-TEST_F(Chart, ARandomTreeIsLaidOutAsTheRulesSayAndAreasFindWhatTouchesThem)
-{
-    std::mt19937 Random(7);
-    const auto Pick = [&](int Below) { return static_cast<int>(Random() % static_cast<unsigned>(Below)); };
-    for (int Round = 0; Round < 60; ++Round) {
-        Tree.Items().Clear();
-        Tree.Layout = {5 + Pick(60), 5 + Pick(30), Pick(30), Pick(30), 2 + Pick(19)};
-        Tree.Items().BeginUpdate();
-        std::vector<TKSTreeNode*> Nodes(1, nullptr);
-        for (int Index = 0; Index < 120; ++Index)
-            Nodes.push_back(Tree.Items().AddChild(Nodes[Random() % Nodes.size()], std::to_string(Index)));
-        for (TKSTreeNode* Each : Nodes)
-            if (Each && Pick(4) > 0)
-                Each->Expand(false);
-        Tree.Items().EndUpdate();
-        TPlainLayout Plain(Tree.Layout);
-        for (auto* Top = Tree.Items().GetFirstNode(); Top; Top = Top->GetNextSibling())
-            Plain.Arrange(*Top);
-        LayOut({300, 200, Pick(500), Pick(200)});
-        std::size_t Shown = 0;
-        for (auto* Each = Tree.Items().GetFirstNode(); Each; Each = Each->GetNextVisible(), ++Shown) {
-            ASSERT_EQ(View.GetShown()[Shown], Each);
-            ASSERT_EQ(Each->GetLeftExtent(), Plain.Places[Each].Left);
-            ASSERT_EQ(Each->GetRightExtent(), Plain.Places[Each].Right);
-            if (Each->GetParent()) {
-                ASSERT_EQ(Each->GetXOffset(), Plain.Places[Each].Offset);
-                ASSERT_EQ(Each->GetRect().Left + Tree.Layout.NodeWidth / 2,
-                          Each->GetParent()->GetRect().Left + Tree.Layout.NodeWidth / 2 + Each->GetXOffset());
-            }
-            ASSERT_EQ(Each->GetRect().Top, View.GetOrigin().Y + Each->GetLevel() * (Tree.Layout.NodeHeight +
-                                                                                    Tree.Layout.VertSpacing));
-        }
-        ASSERT_EQ(View.GetShown().size(), Shown);
-        for (int Trial = 0; Trial < 20; ++Trial) {
-            const vcl::TRect Area =
-                vcl::Bounds(Pick(900) - 300, Pick(600) - 200, 1 + Pick(100), 1 + Pick(100));
-            std::vector<TKSTreeNode*> Found;
-            View.Find(Area, 0, Found);
-            std::vector<TKSTreeNode*> Missing;
-            for (TKSTreeNode* Each : View.GetShown()) {
-                vcl::TRect Box = Each->GetRect();
-                if (Each->GetExpanded() && Each->GetFirstChild()) {
-                    Box.Left = std::min(Box.Left, Each->GetFirstChild()->GetCenter());
-                    Box.Right = std::max(Box.Right, Each->GetLastChild()->GetCenter());
-                }
-                Box.Left = std::min(Box.Left, Each->ButtonRect().Left);
-                Box.Right = std::max(Box.Right + 2, Each->ButtonRect().Right + 1);
-                Box.Top -= Tree.Layout.VertSpacing / 2 + 1;
-                Box.Bottom += std::max(Tree.Layout.VertSpacing / 2 + 1, Tree.Layout.ButtonSize) + 2;
-                const bool Touches = Box.Left < Area.Right && Box.Right > Area.Left &&
-                                     Box.Top < Area.Bottom && Box.Bottom > Area.Top;
-                if (Touches && std::find(Found.begin(), Found.end(), Each) == Found.end())
-                    Missing.push_back(Each);
-            }
-            ASSERT_TRUE(Missing.empty()) << Missing[0]->GetText();
-            ASSERT_LT(Found.size(), 121u);
-        }
-    }
 }
 
 TEST_F(Chart, AnAreaOfALargeChartFindsFewNodes)
