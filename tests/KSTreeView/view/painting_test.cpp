@@ -1,9 +1,5 @@
-#include "KSTreeView/view/TreeViewFixture.h"
-
+#include "KSTreeView/view/TreePaintingFixture.h"
 #include "support/Expected.h"
-#include "vcl/graphics/Bitmap.h"
-#include "vcl/graphics/ImageList.h"
-#include "vcl/graphics/RecordingPainter.h"
 
 using testing::ElementsAre;
 using vcl::tests::MatchesExpected;
@@ -11,35 +7,8 @@ using vcl::tests::MatchesExpected;
 namespace
 {
 
-class TreePainting : public TTreeViewTest
+class TreePainting : public TTreePaintingTest
 {
-protected:
-    /// What a whole painting does, one operation a line.
-    std::string Painted()
-    {
-        vcl::TRecordingPainter Painter({0, 0, 300, 200});
-        vcl::TCanvas Canvas(&Painter);
-        Tree->PaintTo(Canvas, 0, 0);
-        return Painter.GetText();
-    }
-    /// What one node's drawing does.
-    std::string Drawn(TKSTreeNode* Drawn)
-    {
-        vcl::TRecordingPainter Painter({0, 0, 300, 200});
-        vcl::TCanvas Canvas(&Painter);
-        Tree->GetCanvas()->SetPainter(&Painter);
-        Drawn->Draw();
-        return Painter.GetText();
-    }
-    std::vector<std::string> LinesWith(const std::string& Word)
-    {
-        std::vector<std::string> Result;
-        std::istringstream Text(Painted());
-        for (std::string Line; std::getline(Text, Line);)
-            if (Line.find(Word) != std::string::npos)
-                Result.push_back(Line);
-        return Result;
-    }
 };
 
 TEST_F(TreePainting, AnEmptyTreePaintsItsBackgroundAlone)
@@ -182,29 +151,6 @@ TEST_F(TreePainting, TheDrawEventReplacesBoxImageAndText)
     EXPECT_THAT(LinesWith("rect "), testing::SizeIs(1)) << "the button is still drawn";
 }
 
-TEST_F(TreePainting, HandlersMayChangeTheTreeWhileItIsPainted)
-{
-    for (const int What : {0, 1, 2, 3}) {
-        Show("A\nB\nC\n");
-        bool Done = false;
-        Tree->OnGetImageIndex = [&](vcl::TObject*, TKSTreeNode* About) {
-            if (std::exchange(Done, true))
-                return;
-            if (What == 0)
-                About->Delete();
-            else if (What == 1)
-                Tree->GetItems()->Clear();
-            else if (What == 2)
-                Node("C")->Delete();
-            else
-                Tree->GetItems()->Insert(Node("C"), "new");
-        };
-        Tree->Refresh();
-        EXPECT_TRUE(Done);
-        Tree->OnGetImageIndex = nullptr;
-    }
-}
-
 TEST_F(TreePainting, APaintingWithAClipDrawsTheSamePixels)
 {
     Show("A\n B\n  C\n  D\n E\nF\nG\nH\nI\n");
@@ -225,36 +171,6 @@ TEST_F(TreePainting, APaintingWithAClipDrawsTheSamePixels)
     for (int Y = 0; Y < 200; ++Y)
         for (int X = 0; X < 300; ++X)
             ASSERT_EQ(Parts.GetCanvas()->GetPixel(X, Y), Whole.GetCanvas()->GetPixel(X, Y)) << X << "," << Y;
-}
-
-TEST_F(TreePainting, ASetterRepaintsAtOnceAndAnUnchangedValueDoesNothing)
-{
-    Show("A\n");
-    const auto Paintings = [this](auto&& Action) {
-        const int Before = Tree->Paintings;
-        Action();
-        return Tree->Paintings - Before;
-    };
-    EXPECT_EQ(Paintings([this] { Tree->SetNodeWidth(60); }), 0);
-    EXPECT_GE(Paintings([this] { Tree->SetNodeWidth(61); }), 1);
-    EXPECT_GE(Paintings([this] { Tree->SetLineColor(vcl::clGreen); }), 1);
-    EXPECT_GE(Paintings([this] { Tree->SetButtonSize(7); }), 1);
-    EXPECT_EQ(Paintings([this] { Tree->SetButtonSize(7); }), 0);
-    Tree->SetButtonSize(1);
-    EXPECT_EQ(Tree->GetButtonSize(), 2);
-    Tree->SetButtonSize(50);
-    EXPECT_EQ(Tree->GetButtonSize(), 20);
-    EXPECT_EQ(Paintings([this] { Tree->SetButtonSize(99); }), 0) << "clamped to what it is";
-}
-
-TEST_F(TreePainting, ANodesOwnChangeDrawsItAloneWithoutALayout)
-{
-    Show("A\nB\n");
-    const int Before = Tree->Paintings;
-    Node("A")->SetText("Changed");
-    EXPECT_EQ(Tree->Paintings, Before);
-    Windows().ProcessMessages();
-    EXPECT_EQ(Tree->Paintings, Before);
 }
 
 TEST_F(TreePainting, FillingAShownTreeByStreamPaintsTheEmptyChartAndThenAllNodesOnce)

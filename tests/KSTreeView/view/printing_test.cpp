@@ -5,7 +5,20 @@
 namespace
 {
 
-using TreePrinting = TTreeViewTest;
+using testing::HasSubstr;
+using testing::Not;
+
+class TreePrinting : public TTreeViewTest
+{
+protected:
+    std::string Printed(vcl::TSize Paper, TKSTVPrintMode Mode)
+    {
+        vcl::TRecordingPainter Painter({0, 0, Paper.Width, Paper.Height});
+        vcl::TCanvas Canvas(&Painter);
+        EXPECT_EQ(Tree->PrintTo(&Canvas, {0, 0, Paper.Width, Paper.Height}, Mode), 1);
+        return Painter.GetText();
+    }
+};
 
 TEST_F(TreePrinting, OnPaperAChartThatFitsIsCentred)
 {
@@ -56,6 +69,46 @@ TEST_F(TreePrinting, OnPagesAChartIsCutRowByRow)
     EXPECT_EQ(Tree->PrintTo(&Canvas, {0, 0, 0, 100}), 0);
     EXPECT_EQ(Tree->PrintTo(nullptr, {0, 0, 10, 100}), 0);
     EXPECT_EQ(Painter.GetText(), "");
+}
+
+TEST_F(TreePrinting, WhatFitsExactlyWithItsSpacingIsNotMadeSmaller)
+{
+    Show("A\n");
+    Tree->SetHorzSpacing(8);
+    Tree->SetVertSpacing(32);
+    const auto Scaled = [&](vcl::TSize Paper) { return Printed(Paper, TKSTVPrintMode::pmScaled); };
+    EXPECT_THAT(Scaled({76, 94}), HasSubstr("rect 8,32,68,62 "));
+    EXPECT_THAT(Scaled({75, 94}), Not(HasSubstr("rect 8,32,68,62 ")));
+    EXPECT_THAT(Scaled({76, 93}), Not(HasSubstr("rect 8,32,68,62 ")));
+    EXPECT_THAT(Scaled({38, 93}), HasSubstr("rect 4,39,34,54 ")) << "half of 76";
+    EXPECT_THAT(Scaled({80, 47}), HasSubstr("rect 25,16,55,31 ")) << "half of 94";
+}
+
+TEST_F(TreePrinting, APageCentresOnlyWhatFitsWithItsSpacing)
+{
+    Show("A\n");
+    Tree->SetHorzSpacing(8);
+    Tree->SetVertSpacing(32);
+    const auto Paged = [&](vcl::TSize Paper) { return Printed(Paper, TKSTVPrintMode::pmPaged); };
+    EXPECT_THAT(Paged({76, 94}), HasSubstr("rect 8,32,68,62 "));
+    EXPECT_THAT(Paged({76, 93}), HasSubstr("rect 8,0,68,30 "));
+    EXPECT_THAT(Paged({75, 94}), HasSubstr("rect 0,32,60,62 "));
+    EXPECT_THAT(Paged({75, 93}), HasSubstr("rect 0,0,60,30 "));
+}
+
+TEST_F(TreePrinting, PagesAreCountedWithTheSpacingOfTheirDirection)
+{
+    Show("A\n A1\nB\n");
+    Tree->SetHorzSpacing(-20);
+    Tree->SetVertSpacing(8);
+    // 60 and 60 pixels that overlap by 20; beside them there may be 20 less than nothing.
+    EXPECT_EQ(Tree->GetPrintPageCount({60, 46}), 1);
+    EXPECT_EQ(Tree->GetPrintPageCount({59, 46}), 2);
+    Tree->SetHorzSpacing(8);
+    Tree->SetVertSpacing(-5);
+    Node("A")->Expand(false);
+    EXPECT_EQ(Tree->GetPrintPageCount({144, 45}), 1);
+    EXPECT_EQ(Tree->GetPrintPageCount({144, 44}), 2);
 }
 
 TEST_F(TreePrinting, ATreeThatWasNeverShownPrints)
