@@ -34,7 +34,7 @@ TEST_F(TreeProperties, APlainViewHasTheSizeAndTheDeclaredValues)
     EXPECT_GT(Compared, 30);
 }
 
-TEST_F(TreeProperties, TheTableNamesAllThatIsPublishedAndNoMore)
+TEST_F(TreeProperties, TheTableNamesAllThatIsPublishedInOrderAndNoMore)
 {
     std::vector<std::string> Names;
     for (const vcl::TPropertyInfo* Row : vcl::PublishedProperties(TKSTreeView::StaticClass()))
@@ -124,7 +124,7 @@ TEST_F(TreeProperties, TheTableNamesAllThatIsPublishedAndNoMore)
         "OnEditing",
         "OnEdited",
     };
-    EXPECT_THAT(Names, testing::UnorderedElementsAreArray(Expected));
+    EXPECT_THAT(Names, testing::ElementsAreArray(Expected));
 }
 
 TEST_F(TreeProperties, NodesAreMadeByTheViewsVirtualMethod)
