@@ -187,7 +187,7 @@ void TFormWindow::Activate()
 {
     if (!Widget())
         return;
-    Widget()->raise();
+    Raise();
     Widget()->activateWindow();
 }
 

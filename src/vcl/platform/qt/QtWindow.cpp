@@ -163,10 +163,19 @@ void TWindow::SetEnabled(bool Enabled)
         FWidget->setEnabled(Enabled);
 }
 
+/// Without a screen, top-level windows have no order, and the toolkit complains when it is to change.
+void TWindow::Raise()
+{
+    const bool HasOrder =
+        !FWidget->isWindow() || QGuiApplication::platformName() != QLatin1String("offscreen");
+    if (HasOrder)
+        FWidget->raise();
+}
+
 void TWindow::BringToFront()
 {
     if (FWidget)
-        FWidget->raise();
+        Raise();
 }
 
 void TWindow::SendToBack()

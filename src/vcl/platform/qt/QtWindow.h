@@ -91,6 +91,7 @@ protected:
     virtual bool IsTopLevel() const { return false; }
     void ApplyVisible();
     void SetWidget(QWidget* Widget) { FWidget = Widget; }
+    void Raise();
 
     /// The owner changes place or frame.
     class TOwnChange
