@@ -159,7 +159,7 @@ bool TCustomKSTreeView::CanEdit(TKSTreeNode* Node)
 
 void TCustomKSTreeView::FullExpand()
 {
-    treeview::Coalesced(FHost.get(), FItems->GetLife(), treeview::ExpansionEvents, [this] {
+    treeview::Coalesced(FHost.get(), FItems->GetLiveness(), treeview::ExpansionEvents, [this] {
         treeview::TNodeRef Node(FItems->GetFirstNode());
         while (Node) {
             Node->Expand(true);
@@ -171,7 +171,7 @@ void TCustomKSTreeView::FullExpand()
 
 void TCustomKSTreeView::FullCollapse()
 {
-    treeview::Coalesced(FHost.get(), FItems->GetLife(), treeview::ExpansionEvents, [this] {
+    treeview::Coalesced(FHost.get(), FItems->GetLiveness(), treeview::ExpansionEvents, [this] {
         treeview::TNodeRef Node(FItems->GetFirstNode());
         while (Node) {
             Node->Collapse(true);

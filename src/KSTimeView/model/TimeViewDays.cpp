@@ -6,6 +6,7 @@
 #include "KSTimeView/layout/DayColumns.h"
 #include "KSTimeView/model/TimeViewItems.h"
 #include "KSTimeView/model/TimeviewDay.h"
+#include "vcl/classes/Updating.h"
 #include "vcl/system/Exception.h"
 
 namespace timeview
@@ -83,19 +84,12 @@ void TTimeViewDays::SetDateRange(vcl::TDateTime Date, int Count)
     if (!Witness.IsAlive())
         return;
     FDate = Date;
-    FHost.Items().BeginUpdate();
-    FreeDays();
-    AllocDays(Count);
-    FHost.Items().ReattachToDays();
-    try {
+    vcl::WhileUpdating(FHost.Items(), [&] {
+        FreeDays();
+        AllocDays(Count);
+        FHost.Items().ReattachToDays();
         AnnounceNewDays();
-    } catch (...) {
-        if (Witness.IsAlive())
-            FHost.Items().EndUpdate();
-        throw;
-    }
-    if (Witness.IsAlive())
-        FHost.Items().EndUpdate();
+    });
 }
 
 /// A handler may change the days: those that are gone are left out, and days that replaced all of them have

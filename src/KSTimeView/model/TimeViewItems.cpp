@@ -5,6 +5,7 @@
 
 #include "KSTimeView/model/TimeViewDays.h"
 #include "vcl/classes/List.h"
+#include "vcl/classes/Updating.h"
 #include "vcl/streaming/Filer.h"
 
 namespace
@@ -96,25 +97,9 @@ void TKSTimeViewItems::Detach(TKSTimeViewItem* Item)
     FHost->Repaint();
 }
 
-template <class TAction>
-void TKSTimeViewItems::WhileUpdating(TAction&& Action)
-{
-    const vcl::TAliveGuard Witness(FLife);
-    BeginUpdate();
-    try {
-        Action();
-    } catch (...) {
-        if (Witness.IsAlive())
-            EndUpdate();
-        throw;
-    }
-    if (Witness.IsAlive())
-        EndUpdate();
-}
-
 void TKSTimeViewItems::Clear()
 {
-    WhileUpdating([this] {
+    vcl::WhileUpdating(*this, [this] {
         const vcl::TAliveGuard Witness(FLife);
         while (TKSTimeViewItem* const Item = Witness.IsAlive() ? FirstStaying() : nullptr)
             Item->Delete();
@@ -149,7 +134,7 @@ void TKSTimeViewItems::Assign(const vcl::TPersistent* Source)
         TPersistent::Assign(Source);
         return;
     }
-    WhileUpdating([&] {
+    vcl::WhileUpdating(*this, [&] {
         const vcl::TAliveGuard Witness(FLife);
         vcl::TMemoryStream Stream;
         Items->WriteData(Stream);

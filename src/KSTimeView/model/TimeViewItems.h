@@ -46,6 +46,7 @@ public:
     void BeginUpdate();
     void EndUpdate();
     bool IsUpdating() const { return FUpdateCount > 0; }
+    const vcl::TLiveness& GetLiveness() const { return FLife; }
 
     TKSTimeView* GetTimeView() const { return FHost ? FHost->View() : nullptr; }
     /// The view's window, made when there is none.
@@ -66,8 +67,6 @@ public:
 private:
     friend class TKSTimeViewItem;
 
-    template <class TAction>
-    void WhileUpdating(TAction&& Action);
     bool DiffersFrom(const TKSTimeViewItems& Ancestor) const;
     /// The first item that is not being freed.
     TKSTimeViewItem* FirstStaying() const;

@@ -39,7 +39,7 @@ void TKSTreeNode::operator delete(TKSTreeNode* Node, std::destroying_delete_t)
     ITreeHost* const Host = Node->Host();
     std::optional<vcl::TAliveGuard> Witness;
     if (Node->FOwner)
-        Witness.emplace(Node->FOwner->GetLife());
+        Witness.emplace(Node->FOwner->GetLiveness());
     treeview::TSubtreeRemoval Removal(*Node, true);
     Removal.Run();
     if (Removal.GetFailure() && Host && Witness->IsAlive())
@@ -192,14 +192,14 @@ void TKSTreeNode::Delete()
         Removal.Run();
         return;
     }
-    treeview::Coalesced(Host(), FOwner->GetLife(), treeview::DeletionEvents, [&] { Removal.Run(); });
+    treeview::Coalesced(Host(), FOwner->GetLiveness(), treeview::DeletionEvents, [&] { Removal.Run(); });
 }
 
 void TKSTreeNode::DeleteChildren()
 {
     if (!FOwner)
         return;
-    treeview::Coalesced(Host(), FOwner->GetLife(), treeview::DeletionEvents, [this] {
+    treeview::Coalesced(Host(), FOwner->GetLiveness(), treeview::DeletionEvents, [this] {
         const treeview::TNodeRef Self(this);
         Collapse(true);
         while (TKSTreeNode* const Child = Self ? FirstStayingChild() : nullptr)

@@ -19,7 +19,7 @@ public:
     {
         if (!FHost)
             return;
-        FWitness.emplace(Nodes->GetLife());
+        FWitness.emplace(Nodes->GetLiveness());
         FHost->SetExpanding(true);
     }
     ~TExpandingMark()
@@ -91,7 +91,7 @@ void TKSTreeNode::ExpandNode(bool Expand, bool Recurse)
         }
     };
     if (FOwner)
-        treeview::Coalesced(Host(), FOwner->GetLife(), treeview::ExpansionEvents, ExpandAll);
+        treeview::Coalesced(Host(), FOwner->GetLiveness(), treeview::ExpansionEvents, ExpandAll);
     else
         ExpandAll();
 }

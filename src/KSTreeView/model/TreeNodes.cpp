@@ -5,6 +5,7 @@
 
 #include "KSTreeView/model/Coalesced.h"
 #include "KSTreeView/model/SubtreeRemoval.h"
+#include "vcl/classes/Updating.h"
 #include "vcl/streaming/Filer.h"
 
 using treeview::TSubtreeRemoval;
@@ -327,25 +328,9 @@ void TKSTreeNodes::Delete(TKSTreeNode* Node)
         Node->Delete();
 }
 
-template <class TAction>
-void TKSTreeNodes::WhileUpdating(TAction&& Action)
-{
-    const vcl::TAliveGuard Witness(FLife);
-    BeginUpdate();
-    try {
-        Action();
-    } catch (...) {
-        if (Witness.IsAlive())
-            EndUpdate();
-        throw;
-    }
-    if (Witness.IsAlive())
-        EndUpdate();
-}
-
 void TKSTreeNodes::Clear()
 {
-    WhileUpdating([this] { DeleteAll(false); });
+    vcl::WhileUpdating(*this, [this] { DeleteAll(false); });
 }
 
 TKSTreeNode* TKSTreeNodes::FirstStaying() const

@@ -93,7 +93,7 @@ public:
     treeview::ITreeHost* GetHost() const { return FHost; }
     /// Counts the nodes that have gone: the same number as before means that all pointers still hold.
     std::uint64_t GetGoneSerial() const { return FGoneSerial; }
-    const vcl::TLiveness& GetLife() const { return FLife; }
+    const vcl::TLiveness& GetLiveness() const { return FLife; }
 
     /// Changes with everything that moves boxes: links, expansion, HasChildren.
     std::uint64_t GetShapeSerial() const { return FShapeSerial; }
@@ -128,8 +128,6 @@ private:
     /// No reference may lead to the node any more.
     void NodeGone(TKSTreeNode* Node);
     void ForgetCursors() const;
-    template <class TAction>
-    void WhileUpdating(TAction&& Action);
     TKSTreeNode* LastNode() const;
     bool DiffersFrom(const TKSTreeNodes& Ancestor) const;
     void ReadTopNodes(vcl::TStream& Stream);

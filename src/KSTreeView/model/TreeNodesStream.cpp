@@ -82,7 +82,7 @@ void TKSTreeNode::ReadData(vcl::TStream& Stream, TKSNodeInfo& Info)
     ReadRecord(Stream, Info);
     if (!FOwner)
         return;
-    const vcl::TAliveGuard Witness(FOwner->GetLife());
+    const vcl::TAliveGuard Witness(FOwner->GetLiveness());
     const std::uint64_t Gone = FOwner->GetGoneSerial();
     TKSTreeNodes* const Nodes = FOwner;
     std::vector<TPending> Pending{{this, Info.Count}};

@@ -2,6 +2,7 @@
 
 #include "KSTreeView/model/TreeNodes.h"
 #include "vcl/classes/StringList.h"
+#include "vcl/classes/Updating.h"
 
 namespace treeview
 {
@@ -39,19 +40,12 @@ void TKSTreeNodes::ReadText(vcl::TStream& Stream)
 {
     vcl::TStringList Lines;
     Lines.LoadFromStream(Stream);
-    const vcl::TAliveGuard Witness(FLife);
-    BeginUpdate();
-    try {
+    vcl::WhileUpdating(*this, [&] {
+        const vcl::TAliveGuard Witness(*this);
         Clear();
         if (Witness.IsAlive())
             ReadLines(Lines);
-    } catch (...) {
-        if (Witness.IsAlive())
-            EndUpdate();
-        throw;
-    }
-    if (Witness.IsAlive())
-        EndUpdate();
+    });
 }
 
 void TKSTreeNodes::ReadLines(const vcl::TStringList& Lines)
