@@ -211,8 +211,13 @@ void TKSTimeView::DestroyWnd()
 {
     // What was asked for while there was a window is still laid out for it.
     FDays->EnsureLayout();
-    FAutoScroll = timeview::TAutoScrollZone::None;
     TCustomControl::DestroyWnd();
+}
+
+void TKSTimeView::LoseHandle()
+{
+    FAutoScroll = timeview::TAutoScrollZone::None;
+    TCustomControl::LoseHandle();
 }
 
 void TKSTimeView::CMCtl3DChanged(vcl::TMessage& Message)

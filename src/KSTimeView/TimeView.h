@@ -274,6 +274,7 @@ protected:
     void Paint() override;
     void CreateParams(vcl::TCreateParams& Params) override;
     void DestroyWnd() override;
+    void LoseHandle() override;
     void Notification(vcl::TComponent* Component, vcl::TOperation Operation) override;
     void CMCtl3DChanged(vcl::TMessage& Message) override;
     void CMFontChanged(vcl::TMessage& Message) override;

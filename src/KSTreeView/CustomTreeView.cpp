@@ -1,6 +1,7 @@
 #include "KSTreeView/CustomTreeView.h"
 
 #include <algorithm>
+#include <utility>
 
 #include "KSTreeView/TreeEdit.h"
 #include "KSTreeView/TreeViewHost.h"
@@ -10,6 +11,7 @@
 #include "vcl/graphics/ImageList.h"
 #include "vcl/platform/Platform.h"
 #include "vcl/platform/System.h"
+#include "vcl/system/FirstFailure.h"
 
 using vcl::TAliveGuard;
 
@@ -68,8 +70,10 @@ void TCustomKSTreeView::SetBorderStyle(vcl::TBorderStyle Value)
     if (FBorderStyle == Value)
         return;
     FBorderStyle = Value;
+    const TAliveGuard Guard(*this);
     RecreateWnd();
-    Refresh();
+    if (Guard.IsAlive())
+        Refresh();
 }
 
 void TCustomKSTreeView::SetButtonSize(int Value)
@@ -94,6 +98,7 @@ void TCustomKSTreeView::Notification(vcl::TComponent* Component, vcl::TOperation
     if (Component == FEditor) {
         FEditor = nullptr;
         FSelection.SetEdited(nullptr);
+        Invalidate();
     } else if (Component == FImages) {
         FImages = nullptr;
         Invalidate();
@@ -111,14 +116,13 @@ void TCustomKSTreeView::CreateParams(vcl::TCreateParams& Params)
         Params.Style |= vcl::WS_BORDER;
 }
 
-void TCustomKSTreeView::DestroyWnd()
+void TCustomKSTreeView::LoseHandle()
 {
-    // Timers end with the window.
     FEditTimerRuns = false;
     FEditPending = false;
     FPanning = false;
     FDragScroll = {};
-    TCustomControl::DestroyWnd();
+    TCustomControl::LoseHandle();
 }
 
 void TCustomKSTreeView::RefreshNodes()
@@ -206,16 +210,29 @@ TKSTVHitTests TCustomKSTreeView::InternalGetHitTestInfoAt(int X, int Y, TKSTreeN
     return Hit.Tests;
 }
 
+/// Shows now what was put off until the end of many changes: the places of the boxes are needed.
+void TCustomKSTreeView::FlushRefresh()
+{
+    if (!FRefreshDue || FCoalescing == 0 || Is(vcl::TComponentState::csDestroying))
+        return;
+    const TAliveGuard Guard(*this);
+    const int Depth = std::exchange(FCoalescing, 0);
+    FRefreshDue = false;
+    vcl::TFirstFailure Failure;
+    Failure.Try([&] { Refresh(); });
+    if (Guard.IsAlive())
+        FCoalescing += Depth;
+    Failure.Rethrow();
+}
+
 void TCustomKSTreeView::ScrollInView(TKSTreeNode* Node)
 {
+    if (!Node || !GetParent() || FItems->IsUpdating() || !Node->IsVisible())
+        return;
     const TAliveGuard Guard(*this);
     const treeview::TNodeRef Wanted(Node);
-    // What is put off until the end of many changes is needed now: the boxes' places.
-    if (FRefreshDue && FCoalescing > 0 && !Is(vcl::TComponentState::csDestroying)) {
-        FRefreshDue = false;
-        Refresh();
-    }
-    if (!Guard.IsAlive() || !Wanted || !GetParent() || FItems->IsUpdating() || !Node->IsVisible())
+    FlushRefresh();
+    if (!Guard.IsAlive() || !Wanted || !Node->IsVisible())
         return;
     const vcl::TRect& Box = Node->GetRect();
     const auto Delta = [](int From, int To, int Spacing, int Room) {

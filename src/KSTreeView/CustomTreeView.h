@@ -187,7 +187,6 @@ public:
 
     /// The arrow keys walk the chart and never reach OnKeyDown; further keys act when OnKeyDown left them.
     void KeyDown(std::uint16_t& Key, vcl::TShiftState Shift) override;
-    /// Near the edges of the view the chart scrolls while something is dragged over it.
     void DragDrop(vcl::TObject* Source, int X, int Y) override;
     void WndProc(vcl::TMessage& Message) override;
     void Dispatch(vcl::TMessage& Message) override;
@@ -210,11 +209,13 @@ protected:
     treeview::TChartHit HitTest(vcl::TPoint Point) const;
 
     void CreateParams(vcl::TCreateParams& Params) override;
-    void DestroyWnd() override;
+    void LoseHandle() override;
     void Notification(vcl::TComponent* Component, vcl::TOperation Operation) override;
 
     void KeyPress(char32_t& Key) override;
     void BeginAutoDrag() override;
+    void DoStartDrag(vcl::TDragObject*& DragObject) override;
+    /// Near the edges of the view the chart scrolls meanwhile.
     void DragOver(vcl::TObject* Source, int X, int Y, vcl::TDragState State, bool& Accept) override;
     void MouseMove(vcl::TShiftState Shift, int X, int Y) override;
     void MouseUp(vcl::TMouseButton Button, vcl::TShiftState Shift, int X, int Y) override;
@@ -274,6 +275,7 @@ private:
     void TakeFocusFromEditor();
     void EndEditing();
     void WMEditorLeft();
+    void FlushRefresh();
     void CheckOwn(const TKSTreeNode* Node) const;
     void StartPanning(vcl::TPoint Point);
     void SetDragScroll(vcl::TPoint Directions);

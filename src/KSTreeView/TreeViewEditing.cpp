@@ -5,6 +5,7 @@
 #include "KSTreeView/CustomTreeView.h"
 #include "KSTreeView/TreeEdit.h"
 #include "vcl/controls/FormSite.h"
+#include "vcl/system/FirstFailure.h"
 
 using vcl::TAliveGuard;
 
@@ -36,7 +37,7 @@ void TCustomKSTreeView::EditTimerTick()
     if (!Focused())
         return; // the timer goes on until the view has the focus again
     StopEditTimer();
-    if (!FReadOnly && !Dragging())
+    if (!FReadOnly)
         EditNode(GetSelected());
 }
 
@@ -133,37 +134,41 @@ void TCustomKSTreeView::HideNodeEditor(bool Accept)
     if (!FEditor || FClosingEditor)
         return;
     const TAliveGuard Guard(*this);
-    std::exception_ptr Failure;
+    vcl::TFirstFailure Failure;
     {
         const vcl::TFlagScope Closing(*this, FClosingEditor);
-        try {
+        Failure.Try([&] {
             if (Accept)
                 TakeEditedText();
             if (Guard.IsAlive() && FEditor)
                 TakeFocusFromEditor();
-        } catch (...) {
-            Failure = std::current_exception();
-        }
+        });
         if (Guard.IsAlive())
             delete std::exchange(FEditor, nullptr);
     }
     if (Guard.IsAlive())
-        EndEditing();
-    if (Failure)
-        std::rethrow_exception(Failure);
+        Failure.Try([&] { EndEditing(); });
+    Failure.Rethrow();
 }
 
 /// The node shows its text again; while it is drawn it still is the one being edited.
 void TCustomKSTreeView::EndEditing()
 {
+    if (FEditor)
+        return; // a handler has begun to edit another node
     const TAliveGuard Guard(*this);
     const treeview::TNodeRef Node(GetEditingNode());
+    vcl::TFirstFailure Failure;
     FSelection.EndEdited();
-    if (Node)
-        Node->Draw();
-    if (!Guard.IsAlive() || FEditor)
-        return;
-    FSelection.SetEdited(nullptr);
-    if (!Focused())
-        RedrawSelected();
+    Failure.Try([&] {
+        if (Node)
+            Node->Draw();
+    });
+    if (Guard.IsAlive() && !FEditor) {
+        FSelection.SetEdited(nullptr);
+        // As the edited node it was drawn with the colours of the focus.
+        if (!Focused())
+            Failure.Try([&] { RedrawSelected(); });
+    }
+    Failure.Rethrow();
 }

@@ -2,6 +2,7 @@
 
 #include "KSTreeView/TreeEdit.h"
 #include "vcl/controls/Program.h"
+#include "vcl/system/FirstFailure.h"
 
 using treeview::TNodePainter;
 using treeview::TTreeEvent;
@@ -45,18 +46,12 @@ void TCustomKSTreeView::THost::EndCoalescing()
 void TCustomKSTreeView::THost::ForgetNode(TKSTreeNode* Node)
 {
     const vcl::TAliveGuard Guard(FView);
-    std::exception_ptr Failure;
-    if (FView.GetEditingNode() == Node) {
-        try {
-            FView.HideNodeEditor(false);
-        } catch (...) {
-            Failure = std::current_exception();
-        }
-    }
+    vcl::TFirstFailure Failure;
+    if (FView.GetEditingNode() == Node)
+        Failure.Try([&] { FView.HideNodeEditor(false); });
     if (Guard.IsAlive())
         FView.FSelection.Forget(Node);
-    if (Failure)
-        std::rethrow_exception(Failure);
+    Failure.Rethrow();
 }
 
 void TCustomKSTreeView::THost::CalcNodeRects(TKSTreeNode& Node, int X)

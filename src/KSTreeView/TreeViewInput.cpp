@@ -3,11 +3,8 @@
 #include <utility>
 
 #include "KSTreeView/CustomTreeView.h"
-#include "KSTreeView/TreeEdit.h"
-#include "KSTreeView/TreeViewHost.h"
 #include "KSTreeView/interaction/MouseSteps.h"
-#include "vcl/platform/Platform.h"
-#include "vcl/platform/VirtualKeys.h"
+#include "vcl/controls/Drag.h"
 
 using treeview::TPress;
 using vcl::TAliveGuard;
@@ -234,6 +231,12 @@ void TCustomKSTreeView::WMTimer(vcl::TMessage& Message)
         TCustomControl::WMTimer(Message);
 }
 
+void TCustomKSTreeView::DoStartDrag(vcl::TDragObject*& DragObject)
+{
+    StopEditTimer(); // the press was none to edit by
+    TCustomControl::DoStartDrag(DragObject);
+}
+
 void TCustomKSTreeView::DragOver(vcl::TObject* Source, int X, int Y, vcl::TDragState State, bool& Accept)
 {
     if (State == vcl::TDragState::dsDragLeave)
@@ -263,13 +266,14 @@ void TCustomKSTreeView::SetDragScroll(vcl::TPoint Directions)
 
 void TCustomKSTreeView::DragScrollTick()
 {
-    const TAliveGuard Guard(*this);
+    // What was dragged may have gone without a word.
+    if (!vcl::DragSession().IsDragging())
+        return SetDragScroll({});
     const auto Distance = [](const TKSTVScrollBar& Bar, int Direction) {
         return vcl::SaturateToInt(std::int64_t{Bar.GetIncrement()} * DragScrollIncrements * Direction);
     };
     FHorzScrollBar->ScrollBy(Distance(*FHorzScrollBar, FDragScroll.X));
-    if (Guard.IsAlive())
-        FVertScrollBar->ScrollBy(Distance(*FVertScrollBar, FDragScroll.Y));
+    FVertScrollBar->ScrollBy(Distance(*FVertScrollBar, FDragScroll.Y));
 }
 
 void TCustomKSTreeView::WMSize(vcl::TMessage& Message)

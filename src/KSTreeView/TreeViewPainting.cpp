@@ -71,14 +71,14 @@ void TCustomKSTreeView::Paint()
     if (!Guard.IsAlive())
         return;
     CalcDisplayRect();
-    if (FEditor && !FPrinting)
-        FEditor->Changed(); // stays over its node
     if (WantsEveryNode())
         DrawAllNodes();
     else
         DrawTouchedNodes();
     if (Guard.IsAlive())
         InternalDrawRootLine();
+    if (Guard.IsAlive() && FEditor && !FPrinting)
+        FEditor->Changed(); // stays over its node
 }
 
 void TCustomKSTreeView::DrawAllNodes()
@@ -87,19 +87,22 @@ void TCustomKSTreeView::DrawAllNodes()
     const TAliveGuard Guard(*this);
     const std::uint64_t Shape = FItems->GetShapeSerial();
     std::size_t Next = 0;
+    const auto Following = [&](const TKSTreeNode& Node) {
+        const std::vector<TKSTreeNode*>& Shown = FChart.GetShown();
+        if (FItems->GetShapeSerial() != Shape)
+            return Node.GetNextVisible();
+        return Next < Shown.size() ? Shown[Next] : nullptr;
+    };
     treeview::TNodeRef Node(FItems->GetFirstNode());
     treeview::TNodeRef After(nullptr);
     while (Node) {
-        const std::vector<TKSTreeNode*>& Shown = FChart.GetShown();
-        const bool IsUnchanged = FItems->GetShapeSerial() == Shape;
         ++Next;
-        After.Reset(!IsUnchanged ? Node->GetNextVisible() : Next < Shown.size() ? Shown[Next] : nullptr);
+        After.Reset(Following(*Node.Get()));
         Node->Draw();
         if (!Guard.IsAlive())
             return;
-        // What a handler has put behind the node is drawn too; when it took the node away, what follows is.
-        const bool HasChanged = FItems->GetShapeSerial() != Shape;
-        Node.Reset(Node && HasChanged ? Node->GetNextVisible() : After.Get());
+        // What a handler has put behind the node is drawn too; when it took the node away, what followed is.
+        Node.Reset(Node ? Following(*Node.Get()) : After.Get());
     }
 }
 
@@ -224,11 +227,11 @@ void TCustomKSTreeView::PrintSmaller(vcl::TCanvas& Canvas, const vcl::TRect& Are
 {
     const vcl::TRect Clip = Canvas.GetClipRect(); // attaches a canvas that has not drawn yet
     const vcl::TPoint Origin = Canvas.GetOrigin();
-    const vcl::TRect Paper =
+    const vcl::TRect Allowed =
         vcl::Bounds(Clip.Left + Origin.X, Clip.Top + Origin.Y, Clip.Width(), Clip.Height());
     const TClipRestorer Restorer(Canvas);
     treeview::TScaledPainter Painter(*Canvas.GetPainter(), Factor,
-                                     {Origin.X + Area.Left, Origin.Y + Area.Top}, Paper);
+                                     {Origin.X + Area.Left, Origin.Y + Area.Top}, Allowed);
     vcl::TCanvas Scaled(&Painter);
     // Rounded up, so that what just fits is centred and not taken for too large.
     const auto Unscaled = [Factor](int Length) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <filesystem>
+#include <iterator>
 #include <stdexcept>
 #include <string>
 #include <unistd.h>
@@ -29,6 +30,12 @@ public:
 
     const std::filesystem::path& GetPath() const { return FPath; }
     std::string File(const std::string& Name) const { return (FPath / Name).string(); }
+    /// Files and folders right in it.
+    int Count() const
+    {
+        const std::filesystem::directory_iterator Entries(FPath);
+        return static_cast<int>(std::distance(begin(Entries), end(Entries)));
+    }
 
 private:
     std::filesystem::path FPath;

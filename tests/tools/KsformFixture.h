@@ -58,13 +58,7 @@ protected:
     std::string Get(const std::string& Name) const { return Load(FFolder.File(Name)); }
     std::string Path(const std::string& Name) const { return FFolder.File(Name); }
     bool Exists(const std::string& Name) const { return std::filesystem::exists(FFolder.File(Name)); }
-    int FileCount() const
-    {
-        int Count = 0;
-        for ([[maybe_unused]] const auto& Entry : std::filesystem::directory_iterator(FFolder.GetPath()))
-            ++Count;
-        return Count;
-    }
+    int FileCount() const { return FFolder.Count(); }
 
 private:
     TTemporaryFolder FFolder;

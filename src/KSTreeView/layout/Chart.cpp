@@ -297,6 +297,7 @@ void TChart::Find(const vcl::TRect& Area, int Margin, std::vector<TKSTreeNode*>&
     const std::int64_t FirstRow = (std::int64_t{Wide.Top} - FOrigin.Y) / Pitch - 1;
     const std::int64_t LastRow = (std::int64_t{Wide.Bottom} - FOrigin.Y) / Pitch + 1;
     std::vector<std::uint32_t> Indexes;
+    // MaxLevel may be larger: a node's own layout raises it without making rows.
     const std::int64_t End = std::min(LastRow, static_cast<std::int64_t>(FRows.size()) - 2);
     for (std::int64_t Level = std::max<std::int64_t>(FirstRow, 0); Level <= End; ++Level)
         FindInRow(static_cast<std::size_t>(Level), Wide, Indexes);

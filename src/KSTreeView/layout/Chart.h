@@ -37,7 +37,7 @@ struct TChartHit {
 ///     Chart.Place(Chart.OriginFor(Frame));
 ///
 /// Arrange does nothing when neither nodes nor metrics changed. All its work is proportional to the number of
-/// visible nodes, whatever the depth; coordinates stop at about a thousand million.
+/// visible nodes, whatever the depth; coordinates stop at 2^29.
 class TChart
 {
 public:

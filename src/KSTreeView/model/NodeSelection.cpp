@@ -1,49 +1,31 @@
 #include "KSTreeView/model/NodeSelection.h"
 
-#include <exception>
-
 #include "KSTreeView/model/NodeRef.h"
+#include "vcl/system/FirstFailure.h"
 
 namespace treeview
 {
 
 using enum TKSTNNodeState;
 
-/// False: the selection stays, by veto or because a handler took away what was to be selected.
-bool TNodeSelection::LeaveSelected(const TNodeRef& Next, bool WantsNode)
-{
-    const vcl::TAliveGuard Witness(FLife);
-    if (!FEvents.CanChange(FSelected) || !Witness.IsAlive())
-        return false;
-    if ((WantsNode && !Next) || FSelected == Next.Get())
-        return !WantsNode;
-    if (TKSTreeNode* const Old = FSelected) {
-        Old->ChangeState(nsSelected, false);
-        Old->Draw();
-    }
-    return Witness.IsAlive() && (!WantsNode || Next);
-}
-
 /// The node that is being told to have become selected, until the end of the block.
 class TNodeSelection::TTelling
 {
 public:
-    TTelling(TNodeSelection& Selection, TKSTreeNode* Node)
-        : FSelection(Selection), FBefore(Selection.FTold), FWitness(Selection.FLife)
+    TTelling(TNodeSelection& Selection, TKSTreeNode* Node) : FSelection(Selection), FWitness(Selection.FLife)
     {
         FSelection.FTold = Node;
     }
     ~TTelling()
     {
         if (FWitness.IsAlive())
-            FSelection.FTold = FBefore.Get();
+            FSelection.FTold = nullptr;
     }
     TTelling(const TTelling&) = delete;
     TTelling& operator=(const TTelling&) = delete;
 
 private:
     TNodeSelection& FSelection;
-    TNodeRef FBefore;
     vcl::TAliveGuard FWitness;
 };
 
@@ -54,41 +36,50 @@ void TNodeSelection::Select(TKSTreeNode* Node)
         return;
     const vcl::TAliveGuard Witness(FLife);
     const TNodeRef Next(Node);
-    if (FSelected && !LeaveSelected(Next, Node != nullptr))
+    if (FSelected && !FEvents.CanChange(FSelected))
         return;
-    const std::uint64_t Serial = Next ? ++FSerial : FSerial;
-    std::exception_ptr Failure;
-    try {
-        if (Next)
-            Enter(Next);
-    } catch (...) {
-        Failure = std::current_exception();
-    }
+    if (!Witness.IsAlive() || Next.Get() != Node || Node == FSelected)
+        return;
+    const std::uint64_t Serial = Node ? ++FSerial : FSerial;
+    vcl::TFirstFailure Failure;
+    Failure.Try([&] { LeaveSelected(); });
+    if (Witness.IsAlive() && FSerial == Serial && Next)
+        Failure.Try([&] { Enter(Next); });
+    // A handler that has selected another node has its way.
     if (Witness.IsAlive() && FSerial == Serial) {
         FSelected = Next.Get();
-        if (!Failure)
+        if (!Failure.Get())
             FEvents.ScrollInView(FSelected);
     }
-    if (Failure)
-        std::rethrow_exception(Failure);
+    Failure.Rethrow();
 }
 
-/// Marks the new node and tells; a handler may select another one meanwhile.
+void TNodeSelection::LeaveSelected()
+{
+    TKSTreeNode* const Old = FSelected;
+    if (!Old)
+        return;
+    Old->ChangeState(nsSelected, false);
+    Old->Draw();
+}
+
+/// Marks the new node, tells of it and draws it, selected still or not.
 void TNodeSelection::Enter(const TNodeRef& Next)
 {
     const vcl::TAliveGuard Witness(FLife);
-    TKSTreeNode* const Node = Next.Get();
     const std::uint64_t Serial = FSerial;
-    Node->ChangeState(nsSelected, true);
-    {
-        const TTelling Telling(*this, Node);
-        FEvents.Change(Node);
+    vcl::TFirstFailure Failure;
+    Next->ChangeState(nsSelected, true);
+    Failure.Try([&] {
+        const TTelling Telling(*this, Next.Get());
+        FEvents.Change(Next.Get());
+    });
+    if (Witness.IsAlive() && Next) {
+        if (FSerial != Serial && FSelected != Next.Get())
+            Next->ChangeState(nsSelected, false);
+        Failure.Try([&] { Next->Draw(); });
     }
-    if (!Witness.IsAlive() || !Next)
-        return;
-    if (FSerial != Serial && FSelected != Node)
-        Node->ChangeState(nsSelected, false);
-    Node->Draw();
+    Failure.Rethrow();
 }
 
 void TNodeSelection::Focus(TKSTreeNode* Node)
@@ -99,22 +90,16 @@ void TNodeSelection::Focus(TKSTreeNode* Node)
     const TNodeRef Next(Node);
     TKSTreeNode* const Old = FFocused;
     FFocused = Node;
-    std::exception_ptr Failure;
-    try {
-        if (Old) {
-            Old->ChangeState(nsFocused, false);
-            Old->Draw();
-        }
-    } catch (...) {
-        Failure = std::current_exception();
+    vcl::TFirstFailure Failure;
+    if (Old) {
+        Old->ChangeState(nsFocused, false);
+        Failure.Try([&] { Old->Draw(); });
     }
     if (Witness.IsAlive() && Next && FFocused == Node) {
         Node->ChangeState(nsFocused, true);
-        if (!Failure)
-            Node->Draw();
+        Failure.Try([&] { Node->Draw(); });
     }
-    if (Failure)
-        std::rethrow_exception(Failure);
+    Failure.Rethrow();
 }
 
 void TNodeSelection::SetEdited(TKSTreeNode* Node)

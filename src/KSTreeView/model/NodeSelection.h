@@ -48,7 +48,7 @@ public:
 private:
     class TTelling;
 
-    bool LeaveSelected(const TNodeRef& Next, bool WantsNode);
+    void LeaveSelected();
     void Enter(const TNodeRef& Next);
 
     ISelectionEvents& FEvents;

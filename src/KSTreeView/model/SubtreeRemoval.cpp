@@ -6,11 +6,22 @@
 namespace treeview
 {
 
+namespace
+{
+
+/// So many nodes that handlers add to those that are going are told of.
+constexpr int MostAdded = 1000;
+
+} // namespace
+
 TSubtreeRemoval::TSubtreeRemoval(TKSTreeNode& Root, bool Force)
     : FRoot(Root), FNodes(Root.FOwner), FForce(Force)
 {
-    if (FNodes)
-        FNodes->FRemovals.push_back(this);
+    if (!FNodes)
+        return;
+    FNodes->FRemovals.push_back(this);
+    FGoneBefore = FNodes->FGoneSerial;
+    FMostTold = FNodes->FCount + MostAdded;
 }
 
 TSubtreeRemoval::~TSubtreeRemoval()
@@ -23,19 +34,6 @@ void TSubtreeRemoval::Finish()
     if (FNodes)
         std::erase(FNodes->FRemovals, this);
     FNodes = nullptr;
-}
-
-template <class TAction>
-bool TSubtreeRemoval::Try(TAction&& Action)
-{
-    try {
-        std::forward<TAction>(Action)();
-        return true;
-    } catch (...) {
-        if (!FFailure)
-            FFailure = std::current_exception();
-        return false;
-    }
 }
 
 void TSubtreeRemoval::Run()
@@ -65,15 +63,17 @@ void TSubtreeRemoval::Run()
             break;
         Node = Parent;
     }
-    if (FFailure && !FForce)
-        std::rethrow_exception(FFailure);
+    if (!FForce)
+        FFailure.Rethrow();
 }
 
 bool TSubtreeRemoval::Enter(TKSTreeNode* Node)
 {
     // The mark comes first: a handler that deletes the node it is told about does not start again.
     Node->FDeleting = true;
-    const bool Told = Try([&] {
+    if (++FTold > FMostTold)
+        return true;
+    const bool Told = FFailure.Try([&] {
         if (ITreeHost* const Host = Node->Host())
             Host->NodeDeleting(Node);
         if (Node->FOwner)
@@ -95,34 +95,41 @@ void TSubtreeRemoval::CollapseBelow(TKSTreeNode* Node)
     FCollapsed = FCollapsed || (Node == &FRoot && !IsHeard);
 }
 
+/// From the node that failed up to the root, all are nodes like any other again.
 void TSubtreeRemoval::Unmark(TKSTreeNode* Node)
 {
-    while (Node != &FRoot) {
-        Node->FDeleting = false;
-        Node = Node->FParent;
+    for (TKSTreeNode* Stays = Node;; Stays = Stays->FParent) {
+        Stays->FDeleting = false;
+        if (FNodes && !Stays->FCounted)
+            FNodes->Count(Stays);
+        if (Stays == &FRoot)
+            break;
     }
-    FRoot.FDeleting = false;
     TKSTreeNodes* const Nodes = FNodes;
+    const bool HasRemoved = Nodes && Nodes->FGoneSerial != FGoneBefore;
     Finish();
-    // Some of what was below the root has gone.
-    if (Nodes && FHasRemoved)
-        Try([&] { Nodes->RefreshUnlessUpdating(); });
+    if (HasRemoved)
+        FFailure.Try([&] { Nodes->RefreshUnlessUpdating(); });
 }
 
 void TSubtreeRemoval::Settle(TKSTreeNode* Node)
 {
-    Try([&] { Node->SetHasChildren(false); });
+    FFailure.Try([&] { Node->SetHasChildren(false); });
     if (Node->FOwner)
         Node->FOwner->Uncount(Node);
-    Try([&] {
+    FFailure.Try([&] {
         ITreeHost* const Host = Node->Host();
         if (Host && Host->SelectedNode() == Node)
             Host->SelectNode(nullptr);
     });
-    Try([&] {
+    FFailure.Try([&] {
         ITreeHost* const Host = Node->Host();
         if (Host && Host->FocusedNode() == Node)
             Host->FocusNode(nullptr);
+    });
+    FFailure.Try([&] {
+        if (ITreeHost* const Host = Node->Host())
+            Host->ForgetNode(Node);
     });
 }
 
@@ -145,10 +152,6 @@ void TSubtreeRemoval::OrphanChildren(TKSTreeNode* Node)
 void TSubtreeRemoval::Leave(TKSTreeNode* Node)
 {
     OrphanChildren(Node);
-    Try([&] {
-        if (ITreeHost* const Host = Node->Host())
-            Host->ForgetNode(Node);
-    });
     TKSTreeNodes* const Nodes = Node->FOwner;
     TKSTreeNode* const Parent = Node->FParent;
     const bool LeavesGap = Node->FLinked && Nodes && !(Parent && Parent->FDeleting);
@@ -161,13 +164,12 @@ void TSubtreeRemoval::Leave(TKSTreeNode* Node)
         // The collection is gone; what is left of the tree is its marked nodes.
         Parent->FFirstChild = Parent->FLastChild = nullptr;
     }
-    Node->FParent = nullptr;
-    FHasRemoved = true;
+    Node->FParent = nullptr; // which may go before this node does
     if (Node == &FRoot)
         Finish();
     vcl::TObject::operator delete (Node, std::destroying_delete_t{});
     if (LeavesGap)
-        Try([&] { TellOfGap(*Nodes, Parent, WasVisible); });
+        FFailure.Try([&] { TellOfGap(*Nodes, Parent, WasVisible); });
 }
 
 /// The last thing to happen to a node that leaves others behind: painting, whose handlers may do anything.

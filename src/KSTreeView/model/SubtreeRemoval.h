@@ -1,8 +1,7 @@
 #pragma once
 
-#include <exception>
-
 #include "KSTreeView/model/TreeNodes.h"
+#include "vcl/system/FirstFailure.h"
 
 namespace treeview
 {
@@ -11,7 +10,8 @@ namespace treeview
 ///
 /// On the way it raises the events of each node's deletion, whose handlers may delete any node, clear the
 /// collection or free the view: nodes on the way are marked and belong to this removal alone. A removal
-/// inside another one passes over marked nodes.
+/// inside another one passes over marked nodes. When handlers go on adding nodes to those that are going, the
+/// added ones go unheard after a while.
 class TSubtreeRemoval
 {
 public:
@@ -23,7 +23,7 @@ public:
 
     void Run();
     /// The first that a handler raised, with Force.
-    std::exception_ptr GetFailure() const { return FFailure; }
+    std::exception_ptr GetFailure() const { return FFailure.Get(); }
 
     /// The first node below the root that nobody is deleting yet.
     TKSTreeNode* FirstStaying() const;
@@ -42,16 +42,15 @@ private:
     void OrphanChildren(TKSTreeNode* Node);
     void TellOfGap(TKSTreeNodes& Nodes, TKSTreeNode* Parent, bool WasVisible);
     void Unmark(TKSTreeNode* Node);
-    template <class TAction>
-    bool Try(TAction&& Action);
-
     TKSTreeNode& FRoot;
     TKSTreeNodes* FNodes;
-    std::exception_ptr FFailure;
+    vcl::TFirstFailure FFailure;
+    std::uint64_t FGoneBefore = 0;
+    int FTold = 0;
+    int FMostTold = 0;
     bool FForce;
     bool FCollapsed = false; // everything below the root, with nobody who could object
     bool FAbandoned = false;
-    bool FHasRemoved = false; // a node that the root leaves behind when it stays
 };
 
 } // namespace treeview

@@ -202,10 +202,12 @@ void TKSTreeNode::DeleteChildren()
     treeview::Coalesced(Host(), FOwner->GetLiveness(), treeview::DeletionEvents, [this] {
         const treeview::TNodeRef Self(this);
         Collapse(true);
-        while (TKSTreeNode* const Child = Self ? FirstStayingChild() : nullptr)
-            Child->Delete();
+        // Handlers that go on adding children do not keep this from ending.
+        for (int Left = Self ? FChildCount : 0; Left > 0; --Left)
+            if (TKSTreeNode* const Child = Self ? FirstStayingChild() : nullptr)
+                Child->Delete();
         if (Self)
-            SetHasChildren(false);
+            SetHasChildren(FFirstChild != nullptr);
     });
 }
 

@@ -45,6 +45,7 @@ TKSTreeNode* TKSTreeNode::GetPrev() const
 
 bool TKSTreeNode::IsVisible() const
 {
+    // The layout has found out for the nodes it shows: in a deep chain, climbing for each one takes long.
     if (FOwner && FShownSerial == FOwner->GetShapeSerial())
         return true;
     // The nearest first: most hidden nodes stand in a collapsed parent.
@@ -87,12 +88,13 @@ TKSTreeNode* TKSTreeNode::GetItem(int Index) const
     if (!FFirstChild || Index >= FChildCount)
         throw EKSTreeViewError("List index out of bounds");
     TKSTreeNode* Child = FFirstChild;
-    int Steps = std::max(0, Index);
+    const int Wanted = std::max(0, Index);
+    int Steps = Wanted;
     const auto Nearer = [&](TKSTreeNode* Node, int At) {
-        if (std::abs(Index - At) >= std::abs(Steps))
+        if (std::abs(Wanted - At) >= std::abs(Steps))
             return;
         Child = Node;
-        Steps = Index - At;
+        Steps = Wanted - At;
     };
     Nearer(FLastChild, FChildCount - 1);
     if (FOwner && FOwner->FChildCursorNode && FOwner->FChildCursorNode->FParent == this)

@@ -28,7 +28,7 @@ TKSTreeNodes::~TKSTreeNodes()
     while (!FFloating.empty()) {
         TKSTreeNode* const Node = FFloating.back();
         FFloating.pop_back();
-        Node->FLinked = false;
+        Node->FLinked = false; // as a node of nobody's: nobody is told
         delete Node;
     }
     for (treeview::TNodeRef* Ref : FRefs) {
@@ -54,7 +54,8 @@ TKSTreeNode* TKSTreeNodes::GetNodeFromIndex(int Index) const
     return Node;
 }
 
-/// From the nearest of the first node, the last one and where the look-up before ended. Null behind the end.
+/// From the nearest of the first node, the last one and where the look-up before ended; from the first one
+/// while Count is not to be relied on. Null behind the end.
 TKSTreeNode* TKSTreeNodes::StepTo(int Index) const
 {
     TKSTreeNode* Node = FFirstNode;
@@ -178,6 +179,7 @@ void TKSTreeNodes::Uncount(TKSTreeNode* Node)
 void TKSTreeNodes::NodeGone(TKSTreeNode* Node)
 {
     ++FGoneSerial;
+    ForgetCursors();
     std::erase(FFloating, Node);
     for (treeview::TNodeRef* Ref : FRefs)
         if (Ref->FNode == Node)
@@ -304,19 +306,19 @@ TKSTreeNode* TKSTreeNodes::InsertObject(TKSTreeNode* Sibling, const vcl::AnsiStr
         Node->SetText(Text); // drawn although it stands nowhere yet: only here does adding a node draw it
     } catch (...) {
         if (Added.Stays())
-            Node->Delete();
+            delete Node;
         throw;
     }
     if (!Added.Stays())
         return nullptr;
     std::erase(FFloating, Node);
-    if (Next && Next->FLinked) {
-        Node->FLevel = Next->FLevel;
+    if (IsChained(*Node))
+        return Node; // a handler has put it somewhere
+    if (Next && IsChained(*Next.Get()))
         LinkBefore(Node, Next.Get());
-    } else {
-        Node->FLevel = 0;
+    else
         LinkLast(Node, nullptr);
-    }
+    Node->UpdateLevels();
     if (TKSTreeNode* const Parent = Node->FParent)
         Parent->SetHasChildren(true);
     return Added.Get();

@@ -131,13 +131,15 @@ private:
     TKSTreeNode* LastNode() const;
     bool DiffersFrom(const TKSTreeNodes& Ancestor) const;
     void ReadTopNodes(vcl::TStream& Stream);
-    void SetPointers(const std::vector<void*>& Pointers);
     void ReadLines(const vcl::TStringList& Lines);
     /// A node that nobody is deleting yet; those below others that are being deleted first.
     TKSTreeNode* FirstStaying() const;
-    /// Deletes all nodes but those being deleted further up the stack, and lets go of these.
+    /// Deletes all nodes but those being deleted further up the stack, and lets go of these unless handlers
+    /// have added others.
     void DeleteAll(bool OwnerGoes);
+    /// As many nodes as there are now; less when one takes others along.
     void DeleteStaying(bool OwnerGoes);
+    void* WholePointer(void* Low);
     void RefreshUnlessUpdating();
 
     treeview::ITreeHost* FHost;
@@ -159,5 +161,6 @@ private:
     std::vector<treeview::TNodeRef*> FRefs;
     std::vector<treeview::TSubtreeRemoval*> FRemovals; // under way, outermost first
     std::vector<TKSTreeNode*> FFloating;               // made by Insert and in no chain yet
+    std::vector<void*> FPointers; // of the nodes that are being copied, the next one last
     vcl::TLiveness FLife;
 };

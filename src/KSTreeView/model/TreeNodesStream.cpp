@@ -7,6 +7,7 @@
 
 #include "KSTreeView/model/Coalesced.h"
 #include "KSTreeView/model/TreeNodes.h"
+#include "vcl/system/FirstFailure.h"
 
 namespace
 {
@@ -58,6 +59,8 @@ void TKSTreeNode::ReadRecord(vcl::TStream& Stream, TKSNodeInfo& Info)
     FStringData = Stream.ReadCountedString();
     FImageIndex = Info.ImageIndex;
     FData = reinterpret_cast<void*>(std::uintptr_t{static_cast<std::uint32_t>(Info.Data)});
+    if (FOwner)
+        FData = FOwner->WholePointer(FData);
     FIntData = Info.IntData;
 }
 
@@ -153,23 +156,31 @@ void TKSTreeNodes::Assign(const vcl::TPersistent* Source)
     }
     if (Nodes == this)
         return;
-    const vcl::TAliveGuard Witness(FLife);
     vcl::TMemoryStream Stream;
     Nodes->WriteData(Stream);
-    // The stream holds the low half of a pointer.
     std::vector<void*> Pointers;
     for (const TKSTreeNode* Node = Nodes->FFirstNode; Node; Node = Node->GetNext())
         Pointers.push_back(Node->GetData());
+    std::reverse(Pointers.begin(), Pointers.end());
     Stream.SetPosition(0);
-    ReadData(Stream);
+    const vcl::TAliveGuard Witness(FLife);
+    std::swap(FPointers, Pointers);
+    vcl::TFirstFailure Failure;
+    Failure.Try([&] { ReadData(Stream); });
     if (Witness.IsAlive())
-        SetPointers(Pointers);
+        std::swap(FPointers, Pointers);
+    Failure.Rethrow();
 }
 
-/// In the order of GetNext.
-void TKSTreeNodes::SetPointers(const std::vector<void*>& Pointers)
+/// While nodes are copied: the pointer of which the stream holds the low half.
+void* TKSTreeNodes::WholePointer(void* Low)
 {
-    auto Pointer = Pointers.begin();
-    for (TKSTreeNode* Node = FFirstNode; Node && Pointer != Pointers.end(); Node = Node->GetNext())
-        Node->SetData(*Pointer++);
+    if (FPointers.empty())
+        return Low;
+    void* const Whole = FPointers.back();
+    FPointers.pop_back();
+    const auto LowHalf = [](void* Pointer) {
+        return static_cast<std::uint32_t>(std::bit_cast<std::uintptr_t>(Pointer));
+    };
+    return LowHalf(Whole) == LowHalf(Low) ? Whole : Low;
 }

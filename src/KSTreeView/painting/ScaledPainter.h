@@ -12,8 +12,8 @@ namespace treeview
 class TScaledPainter final : public vcl::IPainter
 {
 public:
-    /// A point P of the drawing goes to Offset + P * Factor, as far as it lies in Clip; both are the target's
-    /// units.
+    /// A point P of the drawing goes to Offset + P * Factor, as far as it lies in Clip, the bounds of what
+    /// may be drawn on; both are the target's units.
     TScaledPainter(vcl::IPainter& Target, double Factor, vcl::TPoint Offset, const vcl::TRect& Clip)
         : FTarget(Target), FFactor(Factor), FOffset(Offset), FClip(Clip)
     {

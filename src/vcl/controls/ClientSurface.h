@@ -42,7 +42,6 @@ public:
     TSurface& GetSurface() { return FSurface; }
     /// Attaches the canvas, making handle and pixels when there are none.
     void Attach();
-    void FitSurface();
     /// The handle is gone: no pixels, no damage.
     void Drop();
     /// Something was drawn: outside a painting it goes to the screen.
@@ -53,6 +52,7 @@ private:
     class TPainting;
 
     TRect ClientRect() const;
+    void FitSurface();
 
     TWinControl& FControl;
     TSurface FSurface;

@@ -172,6 +172,8 @@ protected:
     virtual void CreateWnd();
     /// Ends the handle; descendants keep what only the window knows before calling it.
     virtual void DestroyWnd();
+    /// The handle goes, by DestroyWnd or with the platform's window: what belonged to it, as timers, is gone.
+    virtual void LoseHandle();
     /// Ends and, when it shows or showed, re-makes the handle with what CreateParams says now. Scroll bars,
     /// text, font and focus are applied again, children follow.
     void RecreateWnd();
@@ -260,7 +262,6 @@ private:
     void PlatformMoved(TMessage& Message);
     void PaintContents(TCanvas& Canvas);
     void TellMove(const TRect& Old);
-    void LoseHandle();
     void FixupTabList();
     void TakeCtl3DFromParent();
     void KillTimers();

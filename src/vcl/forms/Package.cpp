@@ -39,7 +39,7 @@ std::vector<AnsiString> Candidates(const AnsiString& Name)
 {
     std::vector<AnsiString> Result;
     const char* const Path = std::getenv("KSSUITE_PACKAGE_PATH");
-    AnsiString Folders = (Path ? Path : "") + (":" + OwnFolder());
+    AnsiString Folders = Path ? Path : "";
     while (!Folders.empty()) {
         const std::size_t Colon = std::min(Folders.find(':'), Folders.size());
         const AnsiString Folder = Folders.substr(0, Colon);
@@ -48,6 +48,8 @@ std::vector<AnsiString> Candidates(const AnsiString& Name)
             for (const AnsiString& File : FileNames(Name))
                 Result.push_back(Folder + "/" + File);
     }
+    for (const AnsiString& File : FileNames(Name))
+        Result.push_back(OwnFolder() + "/" + File);
     for (const AnsiString& File : FileNames(Name))
         Result.push_back(File);
     return Result;

@@ -93,6 +93,45 @@ TEST(Inserting, SurvivesAHandlerThatFreesTheTree)
     EXPECT_EQ(Tree, nullptr);
 }
 
+TEST(Inserting, LeavesTheNodeWhereAHandlerHasPutIt)
+{
+    TFakeTree Tree;
+    Tree.Fill({"A", "B"});
+    Tree.OnGetImageIndex = [&](TKSTreeNode* Node) {
+        if (Node->GetText() == "x" && !Node->GetParent())
+            Node->MoveTo(Tree.Find("A"));
+    };
+    TKSTreeNode* const Added = Tree.Items().Insert(Tree.Find("B"), "x");
+    EXPECT_EQ(Tree.Outline(), "0A 1x 0B");
+    EXPECT_EQ(Added, Tree.Find("x"));
+    EXPECT_EQ(Tree.Items().GetCount(), 3);
+}
+
+TEST(Inserting, TakesAlongTheChildrenAHandlerHasGivenTheNode)
+{
+    TFakeTree Tree;
+    Tree.Fill({"A", " A1"});
+    Tree.OnGetImageIndex = [&](TKSTreeNode* Node) {
+        if (Node->GetText() == "x" && Node->GetCount() == 0)
+            Tree.Items().AddChild(Node, "y");
+    };
+    Tree.Items().Insert(Tree.Find("A1"), "x");
+    EXPECT_EQ(Tree.Outline(), "0A 1x 2y 1A1");
+    EXPECT_EQ(Tree.Items().GetCount(), 4);
+}
+
+TEST(Inserting, BeforeANodeThatIsStillBeingInsertedAppends)
+{
+    TFakeTree Tree;
+    Tree.Fill({"A", "B"});
+    Tree.OnGetImageIndex = [&](TKSTreeNode* Node) {
+        if (Node->GetText() == "x")
+            Tree.Items().Insert(Node, "y");
+    };
+    Tree.Items().Insert(Tree.Find("B"), "x");
+    EXPECT_EQ(Tree.Outline(), "0A 0x 0B 0y");
+}
+
 TEST(Adding, IsSeenByIndexWhileItIsDrawnAndLookUpsAreRightAfterwards)
 {
     TFakeTree Tree;
@@ -196,6 +235,26 @@ TEST(Deletion, ShowsWhatIsLeftWhenAHandlerStopsItHalfWay)
     EXPECT_THAT(Tree.Log, ElementsAre("deleting A2")) << "nothing has gone";
 }
 
+TEST(Deletion, CountsANodeAgainThatStaysAfterAll)
+{
+    TFakeTree Tree;
+    Tree.Fill({"A", "B"});
+    Tree.SelectNode(Tree.Find("A"));
+    // The node has been taken from the count already when its selection goes.
+    Tree.OnChanging = [&](TKSTreeNode* Node) {
+        Tree.Items().AddChild(Node, "new");
+        return true;
+    };
+    Tree.OnDeletion = [](TKSTreeNode* Node) {
+        if (Node->GetText() == "new")
+            Fail();
+    };
+    EXPECT_THROW(Tree.Find("A")->Delete(), vcl::Exception);
+    EXPECT_EQ(Tree.Outline(), "0A 1new 0B");
+    EXPECT_EQ(Tree.Items().GetCount(), 3);
+    EXPECT_EQ(Tree.Items().GetItem(2), Tree.Find("B"));
+}
+
 TEST(Deletion, OfADeepChainIsQuickWhenTheSelectionIsListenedTo)
 {
     // At quadratic time, thousands of millions of steps.
@@ -222,6 +281,22 @@ TEST(Clearing, EndsAlthoughAHandlerGoesOnAddingNodes)
     EXPECT_GT(Tree.Items().GetCount(), 0);
     EXPECT_EQ(Tree.Items().GetItem(Tree.Items().GetCount() - 1)->GetText(), "new");
     EXPECT_EQ(Tree.Find("A"), nullptr);
+}
+
+TEST(Clearing, EndsAlthoughAHandlerGoesOnAddingChildrenToWhatIsGoing)
+{
+    TFakeTree Tree;
+    Tree.Fill({"A", " A1", "B"});
+    int Told = 0;
+    Tree.OnDeletion = [&](TKSTreeNode* Node) {
+        ++Told;
+        Tree.Items().AddChild(Node, "new");
+    };
+    Tree.Find("A")->DeleteChildren();
+    Tree.Items().Clear();
+    EXPECT_GT(Told, 3);
+    EXPECT_EQ(Tree.Find("A"), nullptr);
+    EXPECT_EQ(Tree.Items().GetCount(), 0);
 }
 
 TEST(ANodeOnItsOwn, TouchesNoView)
@@ -267,71 +342,6 @@ TEST(Expanding, AFailedHandlerDoesNotKeepTheNodeFromCollapsingLater)
     EXPECT_FALSE(Tree.Find("A")->GetExpanded());
 }
 
-TEST(Selecting, AHandlerThatFailsLeavesTheNewNodeSelected)
-{
-    TFakeTree Tree;
-    Tree.Fill({"A", "B", "C"});
-    Tree.SelectNode(Tree.Find("A"));
-    Tree.OnChange = [](TKSTreeNode*) { Fail(); };
-    EXPECT_THROW(Tree.SelectNode(Tree.Find("B")), vcl::Exception);
-    EXPECT_EQ(Tree.Selected(), Tree.Find("B"));
-    Tree.OnChange = nullptr;
-    Tree.SelectNode(Tree.Find("C"));
-    EXPECT_FALSE(Tree.Find("A")->GetSelected());
-    EXPECT_FALSE(Tree.Find("B")->GetSelected());
-    EXPECT_TRUE(Tree.Find("C")->GetSelected());
-}
-
-TEST(Selecting, AHandlerMaySelectTheNodeItIsToldAbout)
-{
-    TFakeTree Tree;
-    Tree.Fill({"A", "B"});
-    Tree.SelectNode(Tree.Find("A"));
-    Tree.Log.clear();
-    Tree.OnChange = [&](TKSTreeNode* Node) { Tree.SelectNode(Node); };
-    Tree.SelectNode(Tree.Find("B"));
-    EXPECT_EQ(Tree.Selected(), Tree.Find("B"));
-    EXPECT_EQ(std::count(Tree.Log.begin(), Tree.Log.end(), "change B"), 1);
-}
-
-TEST(Selecting, WhatAHandlerSelectsInsteadIsDrawnAndTheOtherNoLongerLooksSelected)
-{
-    TFakeTree Tree;
-    Tree.Fill({"A", "B", "C"});
-    Tree.SelectNode(Tree.Find("A"));
-    Tree.OnChange = [&](TKSTreeNode* Node) {
-        if (Node->GetText() == "B")
-            Tree.SelectNode(Tree.Find("C"));
-    };
-    Tree.Log.clear();
-    Tree.SelectNode(Tree.Find("B"));
-    EXPECT_EQ(Tree.Selected(), Tree.Find("C"));
-    EXPECT_FALSE(Tree.Find("B")->GetSelected());
-    EXPECT_EQ(Tree.Log.back(), "image B");
-}
-
-TEST(Selecting, AHandlerMayDeleteTheNodeThatWasSelected)
-{
-    TFakeTree Tree;
-    Tree.Fill({"A", "B"});
-    Tree.SelectNode(Tree.Find("A"));
-    Tree.OnChange = Once([&] { Tree.Find("A")->Delete(); });
-    Tree.SelectNode(Tree.Find("B"));
-    EXPECT_EQ(Tree.Selected(), Tree.Find("B"));
-    EXPECT_TRUE(Tree.Find("B")->GetSelected());
-}
-
-TEST(Focusing, AHandlerThatFailsLeavesTheNewNodeFocused)
-{
-    TFakeTree Tree;
-    Tree.Fill({"A", "B"});
-    Tree.FocusNode(Tree.Find("A"));
-    Tree.OnGetImageIndex = Once(&Fail);
-    EXPECT_THROW(Tree.FocusNode(Tree.Find("B")), vcl::Exception);
-    EXPECT_FALSE(Tree.Find("A")->GetFocused());
-    EXPECT_TRUE(Tree.Find("B")->GetFocused());
-}
-
 TEST(Moving, TheOnlyChildToItsOwnParentKeepsItExpanded)
 {
     TFakeTree Tree;
@@ -357,6 +367,7 @@ TEST(Children, AreReachedByIndexInTurnEitherWayInLinearTime)
         ASSERT_EQ(Top->GetItem(Index)->GetIntData(), Index);
     EXPECT_THROW(Top->GetItem(Count), EKSTreeViewError);
     EXPECT_EQ(Top->GetItem(-7)->GetIntData(), 0);
+    EXPECT_EQ(Top->GetItem(INT32_MIN)->GetIntData(), 0);
 }
 
 } // namespace

@@ -90,6 +90,25 @@ TEST(Stream, DataKeepsItsLow32BitsAndACopyAllOfThem)
     EXPECT_EQ(Copy.GetItem(1)->GetData(), reinterpret_cast<void*>(std::uintptr_t{0x55667788}));
 }
 
+TEST(Stream, ACopyHasItsWholePointersWhileItIsDrawn)
+{
+    void* const Long = reinterpret_cast<void*>(std::uintptr_t{0x1122334455667788});
+    TKSTreeNodes Nodes;
+    Nodes.AddObject(nullptr, "A", Long);
+    Nodes.AddObject(nullptr, "B", Long);
+    TFakeTree Tree;
+    Tree.Assigned = {treeview::TTreeEvent::GetImageIndex};
+    int Whole = 0;
+    Tree.OnRefresh = [&] {
+        for (TKSTreeNode* Node = Tree.Items().GetFirstNode(); Node; Node = Node->GetNext())
+            if (Node->GetText() == "A")
+                Whole += Node->GetData() == Long;
+    };
+    Tree.Items().Assign(&Nodes);
+    EXPECT_EQ(Whole, 1) << "when B has been added";
+    EXPECT_EQ(Tree.Items().GetItem(1)->GetData(), Long);
+}
+
 TEST(Stream, AnInfoSizeAbove16OrBelow0IsAReadErrorAndNodesReadSoFarStay)
 {
     for (const int Size : {17, 1000, INT32_MAX, -1, INT32_MIN}) {

@@ -85,6 +85,26 @@ TEST_F(TreeDragging, EscapeCancelsItAndIsNoKeyOfTheView)
     EXPECT_EQ(Selected(), "A");
 }
 
+TEST_F(TreeDragging, ScrollingEndsWhenWhatIsDraggedGoesWithoutAWord)
+{
+    Show("A\nB\nC\nD\nE\nF\nG\n");
+    Tree->OnDragOver = [](vcl::TObject*, vcl::TObject*, int, int, vcl::TDragState, bool& Accept) {
+        Accept = true;
+    };
+    auto* const Source = vcl::New<vcl::TButton>(Form);
+    Source->SetBounds(60, 350, 50, 20);
+    Source->SetParent(Form);
+    Source->BeginDrag(true);
+    const vcl::TPoint Edge{Tree->GetClientWidth() - 5, 50};
+    Windows().MouseMove(WindowOf(*Tree), Edge, vcl::MK_LBUTTON);
+    Windows().Advance(100);
+    EXPECT_GT(Tree->GetHorzScrollBar()->GetPosition(), 0);
+    delete Source;
+    const int Before = Tree->GetHorzScrollBar()->GetPosition();
+    Windows().Advance(500);
+    EXPECT_EQ(Tree->GetHorzScrollBar()->GetPosition(), Before);
+}
+
 class TreePanning : public TreeDragging
 {
 protected:

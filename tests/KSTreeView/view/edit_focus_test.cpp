@@ -83,6 +83,33 @@ TEST_F(TreeEditFocus, NothingIsEditedWhileTheNodeIsDragged)
     EXPECT_FALSE(Tree->IsEditing());
 }
 
+TEST_F(TreeEditFocus, NothingIsEditedAfterAQuickDrag)
+{
+    Show("A\nB\n");
+    Tree->OnMouseDown = [this](vcl::TObject*, vcl::TMouseButton, vcl::TShiftState, int, int) {
+        Tree->BeginDrag(false);
+    };
+    Click("A");
+    vcl::record::TWindow& Window = WindowOf(*Tree);
+    Windows().MouseDown(Window, At("A"));
+    EXPECT_TRUE(Tree->IsEditPending());
+    Windows().MouseMove(Window, At("B"), vcl::MK_LBUTTON);
+    Windows().MouseUp(Window, At("B"));
+    Windows().Advance(2000);
+    EXPECT_FALSE(Tree->IsEditing());
+}
+
+TEST_F(TreeEditFocus, AFailureWhenTheNodeIsDrawnAgainLeavesNothingEdited)
+{
+    Show("A\n");
+    Tree->EditNode(Node("A"));
+    Tree->OnGetImageIndex = [](vcl::TObject*, TKSTreeNode*) { throw vcl::Exception("no"); };
+    EXPECT_THROW(Tree->HideNodeEditor(false), vcl::Exception);
+    Tree->OnGetImageIndex = nullptr;
+    EXPECT_FALSE(Tree->IsEditing());
+    EXPECT_EQ(Tree->GetEditingNode(), nullptr);
+}
+
 TEST_F(TreeEditFocus, TheEditorStaysOpenWhenTheFocusComesToItFromTheView)
 {
     Show("A\n");

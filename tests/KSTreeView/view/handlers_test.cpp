@@ -58,6 +58,26 @@ TEST_F(TreeHandlers, DeletingTheChildrenScrollsToTheNodeThatIsSelectedThen)
     EXPECT_TRUE(IsInView("T10"));
 }
 
+TEST_F(TreeHandlers, DeletingTheSelectedNodePaintsOnce)
+{
+    Show("A\nB\n");
+    Tree->SelectNode(Node("A"));
+    const int Before = Tree->Paintings;
+    Node("A")->Delete();
+    Windows().ProcessMessages();
+    EXPECT_EQ(Tree->Paintings, Before + 1);
+}
+
+TEST_F(TreeHandlers, AnExpandingNodeSaysSoInItsEvents)
+{
+    Show("A\n A1\n");
+    bool WasExpanding = false;
+    Tree->OnExpanded = [&](vcl::TObject*, TKSTreeNode*) { WasExpanding = Tree->IsExpanding(); };
+    Node("A")->Expand(false);
+    EXPECT_TRUE(WasExpanding);
+    EXPECT_FALSE(Tree->IsExpanding());
+}
+
 TEST_F(TreeHandlers, AChartThatIsReplacedIsShownFromItsStart)
 {
     ShowWide();

@@ -67,12 +67,28 @@ TEST(ChartFile, IsReplacedWholeOrNotAtAll)
     planner::ReplaceFile(Name, "short\n");
     std::ifstream File(Name);
     EXPECT_EQ(std::string(std::istreambuf_iterator<char>(File), {}), "short\n");
-    EXPECT_FALSE(std::filesystem::exists(Name + ".part"));
+    EXPECT_EQ(Folder.Count(), 1) << "no other file is left";
     EXPECT_THROW(planner::ReplaceFile(Folder.File("none/chart.txt"), "x"), std::runtime_error);
     std::filesystem::create_directory(Folder.File("folder"));
     EXPECT_THROW(planner::ReplaceFile(Folder.File("folder"), "x"), std::runtime_error);
     EXPECT_TRUE(std::filesystem::is_directory(Folder.File("folder")));
-    EXPECT_FALSE(std::filesystem::exists(Folder.File("folder.part")));
+    EXPECT_EQ(Folder.Count(), 2);
+    std::filesystem::create_symlink(Folder.File("nowhere/chart.txt"), Folder.File("link.txt"));
+    EXPECT_THROW(planner::ReplaceFile(Folder.File("link.txt"), "x"), std::runtime_error);
+    planner::ReplaceFile("/dev/null", "x");
+    EXPECT_FALSE(std::filesystem::is_regular_file("/dev/null"));
+}
+
+TEST(ChartFile, KeepsThePermissionsItHad)
+{
+    namespace fs = std::filesystem;
+    const vcl::tests::TTemporaryFolder Folder;
+    const std::string Name = Folder.File("chart.txt");
+    planner::ReplaceFile(Name, "old");
+    fs::permissions(Name, fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
+    planner::ReplaceFile(Name, "new");
+    EXPECT_EQ(fs::status(Name).permissions(),
+              fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
 }
 
 TEST(ChartFile, ALinkGoesOnLeadingToItsFile)
