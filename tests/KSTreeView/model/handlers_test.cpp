@@ -6,27 +6,13 @@
 #include <gtest/gtest.h>
 
 #include "KSTreeView/model/FakeTree.h"
+#include "KSTreeView/model/Handlers.h"
 #include "vcl/classes/Stream.h"
 
 using testing::ElementsAre;
 
 namespace
 {
-
-/// Runs an action the first time it is called.
-template <class TAction>
-auto Once(TAction Action)
-{
-    return [Action, Done = false](auto&&...) mutable {
-        if (!std::exchange(Done, true))
-            Action();
-    };
-}
-
-[[noreturn]] void Fail()
-{
-    throw vcl::Exception("no");
-}
 
 /// The number of top-level nodes as the stream states it.
 int StreamedTopCount(TFakeTree& Tree)

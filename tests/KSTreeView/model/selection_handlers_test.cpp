@@ -7,23 +7,10 @@
 #include <gtest/gtest.h>
 
 #include "KSTreeView/model/FakeTree.h"
+#include "KSTreeView/model/Handlers.h"
 
 namespace
 {
-
-template <class TAction>
-auto Once(TAction Action)
-{
-    return [Action, Done = false](auto&&...) mutable {
-        if (!std::exchange(Done, true))
-            Action();
-    };
-}
-
-[[noreturn]] void Fail()
-{
-    throw vcl::Exception("no");
-}
 
 /// The texts of the nodes that are marked as selected.
 std::string Marked(TFakeTree& Tree)
