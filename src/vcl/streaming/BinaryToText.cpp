@@ -169,7 +169,7 @@ private:
             Write("NAN");
         else
             // A number far beyond the range reads as infinity.
-            Write(Value.IsNegative() ? "-1.0E9999" : "1.0E9999");
+            Write(AnsiString(Value.IsNegative() ? "-1.0E9999" : "1.0E9999") + Suffix);
     }
 
     void ConvertSet()

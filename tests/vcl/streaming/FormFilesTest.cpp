@@ -182,6 +182,21 @@ TEST_F(FormFiles, ShortFloatingPointTypesAreRead)
     EXPECT_EQ(TextToImage(ImageToText(Image)), Image);
 }
 
+TEST_F(FormFiles, NumbersBeyondTheirRangeKeepTheirKind)
+{
+    const std::string Image = TextToImage("object Form1: TForm1\r\n"
+                                          "  A = -1.0E39s\r\n"
+                                          "  B = 1.0E400d\r\n"
+                                          "  C = 1.0E5000\r\n"
+                                          "end\r\n");
+    EXPECT_EQ(ImageToText(Image), "object Form1: TForm1\r\n"
+                                  "  A = -1.0E9999s\r\n"
+                                  "  B = 1.0E9999d\r\n"
+                                  "  C = 1.0E9999\r\n"
+                                  "end\r\n");
+    EXPECT_EQ(TextToImage(ImageToText(Image)), Image);
+}
+
 TEST_F(FormFiles, ResourcesAreReadAndWrittenWithTheirHeaders)
 {
     for (const json& Case : Index("resource")) {
