@@ -29,6 +29,23 @@ T* Part(const TChartForm& Form, const char* Name)
     return Component;
 }
 
+/// What is selected on the screen does not stand out on paper, until the end of the block.
+class TPlainSelection
+{
+public:
+    explicit TPlainSelection(TKSTreeView& View) : FView(View), FBefore(View.GetHideSelection())
+    {
+        FView.SetHideSelection(true);
+    }
+    ~TPlainSelection() { FView.SetHideSelection(FBefore); }
+    TPlainSelection(const TPlainSelection&) = delete;
+    TPlainSelection& operator=(const TPlainSelection&) = delete;
+
+private:
+    TKSTreeView& FView;
+    bool FBefore;
+};
+
 } // namespace
 
 const vcl::TClass& TChartForm::StaticClass()
@@ -221,6 +238,7 @@ void TChartForm::ExportFile(const vcl::AnsiString& FileName)
     const vcl::TSize Size = ChartSize();
     const vcl::TRect Page{0, 0, Size.Width, Size.Height};
     const auto Draw = [this, Page](vcl::TCanvas& Canvas) {
+        const TPlainSelection Plain(*FView);
         Canvas.GetBrush()->SetColor(FView->GetColor());
         Canvas.FillRect(Page);
         FView->PrintTo(&Canvas, Page);
@@ -289,6 +307,7 @@ void TChartForm::PrintClick(vcl::TObject*)
         return vcl::TPrintJob::TPages{Page, FView->GetPrintPageCount(Page)};
     };
     Job.DrawPage = [this](vcl::TCanvas& Canvas, vcl::TSize Size, int Page) {
+        const TPlainSelection Plain(*FView);
         FView->PrintTo(&Canvas, {0, 0, Size.Width, Size.Height}, TKSTVPrintMode::pmPaged, Page);
     };
     Try([&] { vcl::Print(this, Job); });
