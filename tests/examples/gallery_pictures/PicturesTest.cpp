@@ -72,6 +72,7 @@ protected:
     {
         const std::unique_ptr<vcl::TForm> Form(vcl::New<vcl::TForm>(nullptr));
         Form->SetClientSize(FormSize);
+        Form->GetFont()->SetName("Liberation Sans"); // not what the system happens to prefer
         vcl::TImageList* const Icons = vcl::New<vcl::TImageList>(Form.get());
         gallery::MakeIcons(*Icons);
         auto* const Control = vcl::As<vcl::TWinControl>(vcl::FindClass(State.Page).Create(Form.get()));
