@@ -1,4 +1,6 @@
+#include <cstdlib>
 #include <memory>
+#include <ostream>
 #include <string>
 
 #include <QApplication>
@@ -61,6 +63,7 @@ class GalleryPictures : public ::testing::TestWithParam<TView>
 protected:
     GalleryPictures()
     {
+        setenv("LC_ALL", "C", 1); // the names of days
         vcl::qt::UseQt();
         RegisterKSSuite();
         // A blinking caret would make a picture depend on when it is taken.
@@ -96,6 +99,11 @@ std::string NameOf(const TView& View)
 {
     const std::string Scale = View.Scale == 1 ? "" : View.Scale == 2 ? "-2x" : "-1.5x";
     return std::string(View.State) + (View.IsDark ? "-dark" : "") + Scale;
+}
+
+void PrintTo(const TView& View, std::ostream* Stream)
+{
+    *Stream << View.Page << ' ' << NameOf(View);
 }
 
 std::vector<TView> AllViews()
