@@ -22,11 +22,6 @@ std::string LineEndOf(const std::string& Text);
 /// Lines that end with CR LF, with LineEnd instead.
 std::string WithLineEnds(const std::string& Text, const std::string& LineEnd);
 
-/// Writes a file whole or not at all: what was there stays when it cannot be written, for instance on a full
-/// disk. Devices, and files in folders that take no new ones, are written in place. Throws std::runtime_error
-/// that names the file and the reason.
-void ReplaceFile(const std::string& FileName, const std::string& Text);
-
 /// The page to draw so that a chart fits on paper of that size at half its size at least. A chart that is
 /// larger still takes several such pages. Never smaller than the paper, and of its proportions.
 vcl::TSize PrintPageFor(vcl::TSize Chart, vcl::TSize Paper);

@@ -1,5 +1,7 @@
 #include "planner/ChartForm.h"
 
+#include <QSaveFile>
+
 #include "planner/ChartFile.h"
 #include "planner/ItemColors.h"
 #include "vcl/classes/Stream.h"
@@ -27,6 +29,17 @@ T* Part(const TChartForm& Form, const char* Name)
     if (!Component)
         throw vcl::EReadError(std::string("the chart's form has no ") + T::StaticClass().Name + " " + Name);
     return Component;
+}
+
+/// Writes a file whole or not at all: what was there stays when it cannot be written, for instance on a full
+/// disk. In a folder that takes no new files the old one is written in place.
+void ReplaceFile(const std::string& FileName, const std::string& Text)
+{
+    QSaveFile File(QString::fromStdString(FileName));
+    File.setDirectWriteFallback(true);
+    const auto Size = static_cast<qint64>(Text.size());
+    if (!File.open(QIODevice::WriteOnly) || File.write(Text.data(), Size) != Size || !File.commit())
+        throw vcl::EWriteError("Cannot write " + FileName + ": " + File.errorString().toStdString());
 }
 
 /// What is selected on the screen does not stand out on paper, until the end of the block.

@@ -235,12 +235,12 @@ private:
     friend class TKSTVEdit;
     friend class TKSTVScrollBar;
     class THost;
+    class THandling;
+    class TPrinting;
     static constexpr std::uint64_t EditTimer = 1;
     static constexpr std::uint64_t DragScrollTimer = 2;
     /// The editor has lost the focus: see whether it stays so.
     static constexpr unsigned WM_EDITORLEFT = vcl::WM_USER + 1;
-    class THandling;
-    class TPrinting;
 
     template <class T>
     void Change(T& Field, T Value)

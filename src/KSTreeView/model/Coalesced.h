@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "KSTreeView/model/TreeHost.h"
+#include "vcl/system/FirstFailure.h"
 #include "vcl/system/Liveness.h"
 
 namespace treeview
@@ -27,16 +28,12 @@ void Coalesced(ITreeHost* Host, const vcl::TLiveness& Life, TTreeEvents Events, 
         return;
     }
     const vcl::TAliveGuard Witness(Life);
+    vcl::TFirstFailure Failure;
     Host->BeginCoalescing();
-    try {
-        std::forward<TAction>(Action)();
-    } catch (...) {
-        if (Witness.IsAlive())
-            Host->EndCoalescing();
-        throw;
-    }
+    Failure.Try(std::forward<TAction>(Action));
     if (Witness.IsAlive())
-        Host->EndCoalescing();
+        Failure.Try([&] { Host->EndCoalescing(); });
+    Failure.Rethrow();
 }
 
 } // namespace treeview

@@ -4,6 +4,7 @@
 
 #include "KSTreeView/model/Coalesced.h"
 #include "KSTreeView/model/TreeNodes.h"
+#include "vcl/system/FirstFailure.h"
 
 using treeview::ITreeHost;
 using treeview::TNodeRef;
@@ -106,19 +107,16 @@ void TKSTreeNode::ExpandThis(bool Expand)
     const TNodeRef Self(this);
     IsUnderWay = true;
     bool CanExpand = false;
-    try {
+    vcl::TFirstFailure Failure;
+    Failure.Try([&] {
         CanExpand = DoCanExpand(Expand);
         if (CanExpand && Self)
             DoExpand(Expand);
-    } catch (...) {
-        if (Self)
-            IsUnderWay = false;
-        throw;
-    }
-    if (!Self)
-        return;
-    IsUnderWay = false;
-    if (!CanExpand || GetExpanded() == Expand)
+    });
+    if (Self)
+        IsUnderWay = false;
+    Failure.Rethrow();
+    if (!Self || !CanExpand || GetExpanded() == Expand)
         return;
     ChangeState(TKSTNNodeState::nsExpanded, Expand);
     if (FOwner)

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "vcl/system/FirstFailure.h"
 #include "vcl/system/Liveness.h"
 
 namespace vcl
@@ -13,16 +14,12 @@ template <class T, class TAction>
 void WhileUpdating(T& Updated, TAction&& Action)
 {
     const TAliveGuard Guard(Updated);
+    TFirstFailure Failure;
     Updated.BeginUpdate();
-    try {
-        std::forward<TAction>(Action)();
-    } catch (...) {
-        if (Guard.IsAlive())
-            Updated.EndUpdate();
-        throw;
-    }
+    Failure.Try(std::forward<TAction>(Action));
     if (Guard.IsAlive())
-        Updated.EndUpdate();
+        Failure.Try([&] { Updated.EndUpdate(); });
+    Failure.Rethrow();
 }
 
 } // namespace vcl

@@ -4,7 +4,6 @@
 
 #include <algorithm>
 #include <cstdlib>
-#include <filesystem>
 #include <set>
 #include <vector>
 
@@ -24,14 +23,16 @@ std::vector<AnsiString> FileNames(const AnsiString& Name)
     return {"lib" + Name + ".so.1", "lib" + Name + ".so"};
 }
 
-/// The folder of the library that this code is in. The system's own search begins there too, but not when
-/// another library has taken dlopen's place, as checkers of memory do.
+/// The folder of the library that this code is in, with a slash behind it; empty when it is not known. The
+/// system's own search begins there too, but not when another library has taken dlopen's place, as checkers
+/// of memory do.
 AnsiString OwnFolder()
 {
     Dl_info Info{};
     if (dladdr(reinterpret_cast<const void*>(&LoadPackage), &Info) == 0 || !Info.dli_fname)
         return {};
-    return std::filesystem::path(Info.dli_fname).parent_path().string();
+    const AnsiString File = Info.dli_fname;
+    return File.substr(0, File.rfind('/') + 1);
 }
 
 /// Where to look, in order: whole paths first, then names for the system's own search.
@@ -48,8 +49,10 @@ std::vector<AnsiString> Candidates(const AnsiString& Name)
             for (const AnsiString& File : FileNames(Name))
                 Result.push_back(Folder + "/" + File);
     }
+    const AnsiString Own = OwnFolder();
     for (const AnsiString& File : FileNames(Name))
-        Result.push_back(OwnFolder() + "/" + File);
+        if (!Own.empty())
+            Result.push_back(Own + File);
     for (const AnsiString& File : FileNames(Name))
         Result.push_back(File);
     return Result;

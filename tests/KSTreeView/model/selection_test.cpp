@@ -61,21 +61,6 @@ TEST(Selecting, WhileTellingTheOldNodeIsStillTheViewsSelectedOne)
     EXPECT_EQ(Seen, Tree.Find("A"));
 }
 
-TEST(Selecting, AHandlerMaySelectAnotherNode)
-{
-    TFakeTree Tree;
-    Tree.Fill({"A", "B", "C"});
-    Tree.SelectNode(Tree.Find("A"));
-    Tree.OnChange = [&](TKSTreeNode* Node) {
-        if (Node->GetText() == "B")
-            Tree.SelectNode(Tree.Find("C"));
-    };
-    Tree.SelectNode(Tree.Find("B"));
-    EXPECT_EQ(Tree.Selected(), Tree.Find("C"));
-    EXPECT_TRUE(Tree.Find("C")->GetSelected());
-    EXPECT_FALSE(Tree.Find("B")->GetSelected());
-}
-
 TEST(Selecting, AHandlerMayDeleteEitherNodeOrAll)
 {
     for (const char* Victim : {"A", "B", "*"})

@@ -65,38 +65,24 @@ TEST_F(TreeEditFocus, AViewThatBecomesReadOnlyMeanwhileIsNotEdited)
     EXPECT_FALSE(Tree->IsEditing());
 }
 
-TEST_F(TreeEditFocus, NothingIsEditedWhileTheNodeIsDragged)
+TEST_F(TreeEditFocus, NothingIsEditedWhileTheNodeIsDraggedOrAfterAQuickDrag)
 {
-    Show("A\nB\n");
-    Tree->OnMouseDown = [this](vcl::TObject*, vcl::TMouseButton, vcl::TShiftState, int, int) {
-        Tree->BeginDrag(false);
-    };
-    Click("A");
-    vcl::record::TWindow& Window = WindowOf(*Tree);
-    Windows().MouseDown(Window, At("A"));
-    EXPECT_TRUE(Tree->IsEditPending());
-    Windows().MouseMove(Window, At("B"), vcl::MK_LBUTTON);
-    Windows().Advance(2000);
-    EXPECT_FALSE(Tree->IsEditing());
-    Windows().MouseUp(Window, At("B"));
-    Windows().Advance(2000);
-    EXPECT_FALSE(Tree->IsEditing());
-}
-
-TEST_F(TreeEditFocus, NothingIsEditedAfterAQuickDrag)
-{
-    Show("A\nB\n");
-    Tree->OnMouseDown = [this](vcl::TObject*, vcl::TMouseButton, vcl::TShiftState, int, int) {
-        Tree->BeginDrag(false);
-    };
-    Click("A");
-    vcl::record::TWindow& Window = WindowOf(*Tree);
-    Windows().MouseDown(Window, At("A"));
-    EXPECT_TRUE(Tree->IsEditPending());
-    Windows().MouseMove(Window, At("B"), vcl::MK_LBUTTON);
-    Windows().MouseUp(Window, At("B"));
-    Windows().Advance(2000);
-    EXPECT_FALSE(Tree->IsEditing());
+    for (const unsigned Held : {2000u, 0u}) {
+        Show("A\nB\n");
+        Tree->OnMouseDown = [this](vcl::TObject*, vcl::TMouseButton, vcl::TShiftState, int, int) {
+            Tree->BeginDrag(false);
+        };
+        Click("A");
+        vcl::record::TWindow& Window = WindowOf(*Tree);
+        Windows().MouseDown(Window, At("A"));
+        EXPECT_TRUE(Tree->IsEditPending());
+        Windows().MouseMove(Window, At("B"), vcl::MK_LBUTTON);
+        Windows().Advance(Held);
+        EXPECT_FALSE(Tree->IsEditing());
+        Windows().MouseUp(Window, At("B"));
+        Windows().Advance(2000);
+        EXPECT_FALSE(Tree->IsEditing());
+    }
 }
 
 TEST_F(TreeEditFocus, AFailureWhenTheNodeIsDrawnAgainLeavesNothingEdited)

@@ -1,11 +1,6 @@
 #include "planner/ChartFile.h"
 
-#include <filesystem>
-#include <fstream>
-
 #include <gtest/gtest.h>
-
-#include "support/TemporaryFolder.h"
 
 namespace
 {
@@ -57,49 +52,6 @@ TEST(ChartFile, LinesKeepTheEndsTheyHad)
     EXPECT_EQ(planner::WithLineEnds("a\r\n\tb\r\n", "\n"), "a\n\tb\n");
     EXPECT_EQ(planner::WithLineEnds("a\r\n\r\nb", "\n"), "a\n\nb");
     EXPECT_EQ(planner::WithLineEnds("a\r\n", "\r\n"), "a\r\n");
-}
-
-TEST(ChartFile, IsReplacedWholeOrNotAtAll)
-{
-    const vcl::tests::TTemporaryFolder Folder;
-    const std::string Name = Folder.File("chart.txt");
-    planner::ReplaceFile(Name, "a longer text\n");
-    planner::ReplaceFile(Name, "short\n");
-    std::ifstream File(Name);
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(File), {}), "short\n");
-    EXPECT_EQ(Folder.Count(), 1) << "no other file is left";
-    EXPECT_THROW(planner::ReplaceFile(Folder.File("none/chart.txt"), "x"), std::runtime_error);
-    std::filesystem::create_directory(Folder.File("folder"));
-    EXPECT_THROW(planner::ReplaceFile(Folder.File("folder"), "x"), std::runtime_error);
-    EXPECT_TRUE(std::filesystem::is_directory(Folder.File("folder")));
-    EXPECT_EQ(Folder.Count(), 2);
-    std::filesystem::create_symlink(Folder.File("nowhere/chart.txt"), Folder.File("link.txt"));
-    EXPECT_THROW(planner::ReplaceFile(Folder.File("link.txt"), "x"), std::runtime_error);
-    planner::ReplaceFile("/dev/null", "x");
-    EXPECT_FALSE(std::filesystem::is_regular_file("/dev/null"));
-}
-
-TEST(ChartFile, KeepsThePermissionsItHad)
-{
-    namespace fs = std::filesystem;
-    const vcl::tests::TTemporaryFolder Folder;
-    const std::string Name = Folder.File("chart.txt");
-    planner::ReplaceFile(Name, "old");
-    fs::permissions(Name, fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
-    planner::ReplaceFile(Name, "new");
-    EXPECT_EQ(fs::status(Name).permissions(),
-              fs::perms::owner_read | fs::perms::owner_write | fs::perms::group_read);
-}
-
-TEST(ChartFile, ALinkGoesOnLeadingToItsFile)
-{
-    const vcl::tests::TTemporaryFolder Folder;
-    planner::ReplaceFile(Folder.File("chart.txt"), "old");
-    std::filesystem::create_symlink(Folder.File("chart.txt"), Folder.File("link.txt"));
-    planner::ReplaceFile(Folder.File("link.txt"), "new");
-    EXPECT_TRUE(std::filesystem::is_symlink(Folder.File("link.txt")));
-    std::ifstream File(Folder.File("chart.txt"));
-    EXPECT_EQ(std::string(std::istreambuf_iterator<char>(File), {}), "new");
 }
 
 TEST(ChartFile, CountsOneBoxInTheSingular)
