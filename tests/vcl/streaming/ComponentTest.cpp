@@ -12,15 +12,24 @@ namespace
 class TWatcher : public TComponent
 {
 public:
-    using TComponent::TComponent;
+    explicit TWatcher(TComponent* Owner, AnsiString* SeenOutside = nullptr)
+        : TComponent(Owner), FOutside(SeenOutside)
+    {
+    }
     AnsiString Seen;
 
 protected:
     void Notification(TComponent* Component, TOperation Operation) override
     {
         TComponent::Notification(Component, Operation);
-        Seen += (Operation == TOperation::opInsert ? "+" : "-") + Component->GetName() + " ";
+        const AnsiString Entry = (Operation == TOperation::opInsert ? "+" : "-") + Component->GetName() + " ";
+        Seen += Entry;
+        if (FOutside)
+            *FOutside += Entry;
     }
+
+private:
+    AnsiString* FOutside; // outlives the watcher
 };
 
 TComponent* Named(TComponent* Owner, const char* Name)
@@ -140,11 +149,13 @@ TEST(Component, FreeNotificationReachesComponentsOfOtherOwners)
 TEST(Component, AWatcherThatDiesFirstIsNotTold)
 {
     TComponent* const Target = Named(nullptr, "Target");
+    AnsiString Seen;
     {
-        TWatcher Watcher(nullptr);
+        TWatcher Watcher(nullptr, &Seen);
         Watcher.FreeNotification(Target);
     }
     delete Target;
+    EXPECT_EQ(Seen, "");
 }
 
 TEST(Component, ClassesAreFoundByNameWhateverItsCase)
